@@ -1,0 +1,9 @@
+# Compiler settings shared by the library, its tests, the tool and the benchmarks.
+
+# orx_set_warnings(<target>): the warning set every target of the project is built with.
+function(orx_set_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+        -Wcast-align -Wdouble-promotion -Wformat=2
+        $<$<BOOL:${ORX_WERROR}>:-Werror>)
+endfunction()

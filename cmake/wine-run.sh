@@ -1,0 +1,42 @@
+#!/bin/sh
+# Runs a Windows program of the cross build under Wine, for ctest and for the tool.
+#
+# - One Wine prefix per user, outside the build tree, created on first use (under a lock, as
+#   ctest may start several tests at once).
+# - Wine's own stderr goes to a temporary file and is printed afterwards: the first Wine
+#   process starts wineserver, which inherits that stream, and ctest would otherwise wait for
+#   wineserver to exit after every test.
+# - A crash is a failure even when Wine's debugger handled it and the exit status is 0.
+set -u
+
+WINE=/usr/lib/wine/wine64
+export WINEPREFIX="${ORX_WINEPREFIX:-${HOME:-/tmp}/.cache/orx/wine64}"
+export WINEDEBUG="${WINEDEBUG:--all,err+module}"
+export WINEDLLOVERRIDES="mscoree,mshtml="
+unset DISPLAY
+
+if [ ! -f "$WINEPREFIX/system.reg" ]; then
+    mkdir -p "$(dirname "$WINEPREFIX")"
+    (
+        flock 9
+        if [ ! -f "$WINEPREFIX/system.reg" ]; then
+            "$WINE" wineboot --init >/dev/null 2>&1
+            /usr/lib/wine/wineserver -w
+        fi
+    ) 9>"$WINEPREFIX.lock"
+fi
+
+errors=$(mktemp "${TMPDIR:-/tmp}/orx-wine.XXXXXX")
+"$WINE" "$@" 2>"$errors"
+status=$?
+if [ -s "$errors" ]; then
+    cat "$errors" >&2
+fi
+if grep -q 'wine: Unhandled' "$errors"; then
+    [ "$status" -eq 0 ] && status=1
+fi
+if [ "$status" -eq 53 ]; then
+    echo "wine-run: a DLL the program needs was not found (exit status 53)" >&2
+fi
+rm -f "$errors"
+exit "$status"

@@ -1,0 +1,42 @@
+#include "orx/foundation/array.h"
+
+#include <climits>
+
+COrxArray::COrxArray() : m_capacity(0), m_length(0) {}
+
+COrxArray::COrxArray(COrxArray const& other)
+    : COrxObj(other), m_capacity(other.m_capacity), m_length(other.m_length) {}
+
+COrxArray& COrxArray::operator=(COrxArray const& other) {
+    m_capacity = other.m_capacity;
+    m_length = other.m_length;
+    return *this;
+}
+
+COrxArray::~COrxArray() = default;
+
+void COrxArray::clear() {
+    m_length = 0;
+}
+
+int COrxArray::setLogicalLength(int n) {
+    if (n > m_capacity) {
+        setLength(n);
+    }
+    m_length = n < 0 ? 0 : n;
+    return m_length;
+}
+
+int COrxArray::setLength(int n) {
+    m_length = n < 0 ? 0 : n;
+    if (m_length <= m_capacity) {
+        return 0;
+    }
+    int capacity = m_capacity;
+    while (capacity < m_length) {
+        // Doubling past INT_MAX would overflow; the request itself is then the capacity.
+        capacity = capacity > INT_MAX / 2 ? m_length : (capacity * 2 > 8 ? capacity * 2 : 8);
+    }
+    m_capacity = capacity;
+    return capacity;
+}

@@ -1,0 +1,16 @@
+// Foundation: the object base, the typed and untyped growable arrays, and the platform
+// definitions every other subsystem builds on.
+//
+//     COrxArrayTempl<double> lengths;
+//     lengths.append(2.5).append(1.0).sort();     // {1.0, 2.5}
+//     double first = lengths[0];
+//     double last = lengths[-1];                  // negative indexes count from the end
+#ifndef ORX_FOUNDATION_FOUNDATION_H
+#define ORX_FOUNDATION_FOUNDATION_H
+
+#include "orx/foundation/array.h"
+#include "orx/foundation/array_templ.h"
+#include "orx/foundation/obj.h"
+#include "orx/foundation/platform.h"
+
+#endif  // ORX_FOUNDATION_FOUNDATION_H
