@@ -6,6 +6,10 @@
 
 #include "orx/foundation/foundation.h"
 #include "orx/geom/geom.h"
+#include "orx/plane_geometry/plane_geometry.h"
+#include "orx/polyline/polyline.h"
+#include "orx/profiles/profiles.h"
+#include "orx/regions/regions.h"
 #include "orx/services/services.h"
 
 #endif  // ORX_ORX_H
