@@ -23,7 +23,10 @@
 // exception dispatch would run no destructors). Linux installs handlers for SIGSEGV, SIGBUS,
 // SIGFPE and SIGILL that call the translator with the matching Windows code; they are
 // installed once, at the first scope, and pass every fault they do not translate on to the
-// handler that was there before.
+// handler that was there before. Under AddressSanitizer, which installs its own handlers
+// first, ASAN_OPTIONS must keep handle_segv, handle_sigbus and handle_sigfpe at 1 (not 2) and
+// allow_user_segv_handler on, so that these can take their place; the sanitizer test preset
+// sets them.
 #ifndef ORX_SERVICES_ERROR_HANDLER_H
 #define ORX_SERVICES_ERROR_HANDLER_H
 
