@@ -39,8 +39,9 @@
 #define ORX_EXTERN_TEMPLATE(...) extern template class ORX_API __VA_ARGS__
 #endif
 
-// The 64-bit integer of the Windows compilers (MinGW defines it as a macro itself).
-#if !defined(_WIN32) && !defined(__int64)
+// The 64-bit integer of the Windows compilers. MinGW's own headers define it as this very
+// macro, but only once one of them is included; an identical redefinition is allowed.
+#if !defined(_MSC_VER) && !defined(__int64)
 #define __int64 long long
 #endif
 
