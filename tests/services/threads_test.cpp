@@ -17,6 +17,8 @@ constexpr unsigned long kBlockedMs = 50;
 // Far beyond what any of these threads needs; a failure rather than a hang if it breaks.
 constexpr unsigned long kPatienceMs = 10000;
 constexpr int kThreadPriorityBelowNormal = -1;
+// Increments per thread: enough for unlocked threads to collide many times.
+constexpr long kIncrements = 20000;
 
 struct Counter {
     ORX::CCriticalSect section;
@@ -25,7 +27,7 @@ struct Counter {
 
 unsigned long incrementUnderLock(void* data) {
     auto* const counter = static_cast<Counter*>(data);
-    for (int i = 0; i < 20000; ++i) {
+    for (long i = 0; i < kIncrements; ++i) {
         ORX::CLock const lock(counter->section);
         counter->value = counter->value + 1;
     }
@@ -68,7 +70,7 @@ TEST(RunThreadTest, LockedIncrementsFromSeveralThreadsAreNotLost) {
     for (ORX::CSmartHandle const& thread : threads) {
         EXPECT_TRUE(ORX::waitForHandle(thread.handle(), ORX::kWaitForever));
     }
-    EXPECT_EQ(counter.value, 4 * 20000);
+    EXPECT_EQ(counter.value, 4 * kIncrements);
 }
 
 TEST(RunThreadTest, RefusesANullFunctionAndSaysWhy) {

@@ -24,14 +24,6 @@ namespace {
 
 using Translator = COrxErrorHandler::Translator;
 
-// The calling thread's translator; null outside every scope.
-thread_local Translator t_translator = nullptr;
-// Set while this thread's translator runs: a fault inside it is not translated again.
-thread_local bool t_translating = false;
-// Threads with a translator; while there are none the handlers touch no thread-local data
-// (the first touch of one allocates, which is best not done in the middle of any fault).
-std::atomic<int> g_threadsWithTranslator{0};
-
 // The fault being translated, copied out of the dispatcher's records: the redirected thread
 // runs on the stack those records lie on.
 struct Fault {
@@ -39,7 +31,20 @@ struct Fault {
     CONTEXT context;
     EXCEPTION_POINTERS pointers;
 };
-thread_local Fault t_fault;
+
+// What each thread keeps. One record, as MinGW allocates each thread-local object on its
+// first use: exchangeTranslator() uses it first, so that a fault never has to allocate.
+struct ThreadState {
+    // The thread's translator; null outside every scope.
+    Translator translator;
+    // Set while the translator runs: a fault inside it is not translated again.
+    bool translating;
+    Fault fault;
+};
+thread_local ThreadState t_state{};
+
+// Threads with a translator; while there are none the handlers touch no thread-local data.
+std::atomic<int> g_threadsWithTranslator{0};
 
 // The folder of the system's modules ("C:\Windows\"), in whose code faults are left alone.
 std::wstring g_systemFolder;
@@ -76,7 +81,7 @@ Translator translatorFor(EXCEPTION_RECORD const* record) {
         (record->ExceptionFlags & EXCEPTION_NONCONTINUABLE) != 0) {
         return nullptr;
     }
-    return t_translating ? nullptr : t_translator;
+    return t_state.translating ? nullptr : t_state.translator;
 }
 
 // System modules raise faults on purpose and handle them themselves (lstrlenW on a bad
@@ -99,10 +104,11 @@ bool isInSystemModule(void* address) {
 // looks up the byte before a return address, which is then the faulting instruction itself,
 // inside the region -fnon-call-exceptions gave a landing pad.
 void redirect(EXCEPTION_POINTERS const* info) {
-    t_fault.record = *info->ExceptionRecord;
-    t_fault.record.ExceptionRecord = nullptr;
-    t_fault.context = *info->ContextRecord;
-    t_fault.pointers = {&t_fault.record, &t_fault.context};
+    Fault& fault = t_state.fault;
+    fault.record = *info->ExceptionRecord;
+    fault.record.ExceptionRecord = nullptr;
+    fault.context = *info->ContextRecord;
+    fault.pointers = {&fault.record, &fault.context};
 
     CONTEXT* const context = info->ContextRecord;
     context->Rsp -= sizeof(DWORD64);
@@ -166,8 +172,8 @@ void installFaultHandlers() {
 }
 
 struct TranslatingFlag {
-    TranslatingFlag() { t_translating = true; }
-    ~TranslatingFlag() { t_translating = false; }
+    TranslatingFlag() { t_state.translating = true; }
+    ~TranslatingFlag() { t_state.translating = false; }
     TranslatingFlag(TranslatingFlag const&) = delete;
     TranslatingFlag& operator=(TranslatingFlag const&) = delete;
 };
@@ -176,13 +182,13 @@ struct TranslatingFlag {
 
 Translator exchangeTranslator(Translator translator) {
     installFaultHandlers();
-    Translator const previous = t_translator;
+    Translator const previous = t_state.translator;
     if (previous == nullptr && translator != nullptr) {
         g_threadsWithTranslator.fetch_add(1);
     } else if (previous != nullptr && translator == nullptr) {
         g_threadsWithTranslator.fetch_sub(1);
     }
-    t_translator = translator;
+    t_state.translator = translator;
     return previous;
 }
 
@@ -191,12 +197,12 @@ Translator exchangeTranslator(Translator translator) {
 // Runs on the faulting thread, in place of the faulting instruction.
 extern "C" void orxThrowTranslatedFault() {
     using namespace ORX::internal;
-    DWORD const code = t_fault.record.ExceptionCode;
+    DWORD const code = t_state.fault.record.ExceptionCode;
     {
         TranslatingFlag const flag;
-        Translator const translator = t_translator;
+        Translator const translator = t_state.translator;
         if (translator != nullptr) {
-            translator(code, &t_fault.pointers);
+            translator(code, &t_state.fault.pointers);
         }
     }
     // The translator returned: the fault stays what it was, unhandled, and ends the process
