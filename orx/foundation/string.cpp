@@ -46,8 +46,8 @@ COrxString::COrxString(wchar_t const* text) : COrxString() {
     *this = text;
 }
 
-COrxString::COrxString(COrxString const& other) : COrxObj(other), m_buffer(nullptr),
-                                                  m_capacity(0), m_length(0) {
+COrxString::COrxString(COrxString const& other)
+    : COrxObj(other), m_buffer(nullptr), m_capacity(0), m_length(0) {
     *this = other;
 }
 

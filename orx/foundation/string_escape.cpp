@@ -56,10 +56,10 @@ struct NamedReference {
 };
 
 constexpr NamedReference kNamedReferences[] = {
-    {L"amp", 0x26},   {L"lt", 0x3C},     {L"gt", 0x3E},    {L"quot", 0x22},  {L"apos", 0x27},
-    {L"nbsp", 0xA0},  {L"copy", 0xA9},   {L"reg", 0xAE},   {L"deg", 0xB0},   {L"euro", 0x20AC},
-    {L"sect", 0xA7},  {L"micro", 0xB5},  {L"para", 0xB6},  {L"middot", 0xB7}, {L"auml", 0xE4},
-    {L"ouml", 0xF6},  {L"uuml", 0xFC},   {L"Auml", 0xC4},  {L"Ouml", 0xD6},  {L"Uuml", 0xDC},
+    {L"amp", 0x26},   {L"lt", 0x3C},    {L"gt", 0x3E},   {L"quot", 0x22},   {L"apos", 0x27},
+    {L"nbsp", 0xA0},  {L"copy", 0xA9},  {L"reg", 0xAE},  {L"deg", 0xB0},    {L"euro", 0x20AC},
+    {L"sect", 0xA7},  {L"micro", 0xB5}, {L"para", 0xB6}, {L"middot", 0xB7}, {L"auml", 0xE4},
+    {L"ouml", 0xF6},  {L"uuml", 0xFC},  {L"Auml", 0xC4}, {L"Ouml", 0xD6},   {L"Uuml", 0xDC},
     {L"szlig", 0xDF},
 };
 
@@ -104,11 +104,21 @@ bool isHtmlSpecial(wchar_t c) {
 
 void appendHtmlSpecial(std::wstring& out, wchar_t c) {
     switch (c) {
-        case L'&': out += L"&amp;"; break;
-        case L'<': out += L"&lt;"; break;
-        case L'>': out += L"&gt;"; break;
-        case L'"': out += L"&quot;"; break;
-        default: out += L"&#39;"; break;
+        case L'&':
+            out += L"&amp;";
+            break;
+        case L'<':
+            out += L"&lt;";
+            break;
+        case L'>':
+            out += L"&gt;";
+            break;
+        case L'"':
+            out += L"&quot;";
+            break;
+        default:
+            out += L"&#39;";
+            break;
     }
 }
 
@@ -197,8 +207,7 @@ COrxString& COrxString::escapeHtmlSpecial() {
     if (m_buffer == nullptr) {
         return *this;
     }
-    std::wstring const out =
-        escapeHtmlText(textOf(m_buffer, length()), [](View) { return false; });
+    std::wstring const out = escapeHtmlText(textOf(m_buffer, length()), [](View) { return false; });
     return assign(out.c_str(), static_cast<std::uint32_t>(out.size()));
 }
 
@@ -223,8 +232,8 @@ COrxString& COrxString::unEscapeHtml() {
     for (std::size_t k = 0; k < text.size(); ++k) {
         std::size_t const end =
             text[k] == L'&' ? text.substr(k, kMaxReferenceLength + 2).find(L';') : View::npos;
-        std::uint32_t const code = end != View::npos ? referencedCode(text.substr(k + 1, end - 1))
-                                                      : 0;
+        std::uint32_t const code =
+            end != View::npos ? referencedCode(text.substr(k + 1, end - 1)) : 0;
         if (code == 0) {
             out += text[k];
             continue;
@@ -338,8 +347,8 @@ std::wstring unescapeWideChars(View text) {
             // UTF-32: an escaped pair is one character.
             long const low = escapedUnit(text, at);
             if (low >= 0 && isLowSurrogate(static_cast<std::uint32_t>(low))) {
-                code = 0x10000 + ((code - 0xD800) << 10) + (static_cast<std::uint32_t>(low) -
-                                                             0xDC00);
+                code =
+                    0x10000 + ((code - 0xD800) << 10) + (static_cast<std::uint32_t>(low) - 0xDC00);
                 at += kEscapeLength;
             }
         }

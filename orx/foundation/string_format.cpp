@@ -16,6 +16,7 @@
 #include <cwchar>
 #include <new>
 #include <string>
+#include <utility>
 
 #include "orx/foundation/internal/string_internal.h"
 #include "orx/foundation/string.h"
@@ -66,16 +67,17 @@ private:
 };
 
 // The size of an argument, from the length modifier.
-enum class Size { Default, Char, Short, Long, LongLong, LongDouble, Pointer, Wide, Narrow };
+enum class Size { Default, Char, Short, Long, LongLong, LongDouble, Pointer, Wide };
 
-struct Spec {
-    bool left = false;     // '-'
-    bool plus = false;     // '+'
-    bool space = false;    // ' '
+// One conversion: its flags, width, precision (-1: none given), length and character.
+struct Directive {
+    bool left = false;       // '-'
+    bool plus = false;       // '+'
+    bool space = false;      // ' '
     bool alternate = false;  // '#'
-    bool zero = false;     // '0'
+    bool zero = false;       // '0'
     int width = 0;
-    int precision = -1;    // -1: none given
+    int precision = -1;
     Size size = Size::Default;
     wchar_t conversion = 0;
 };
@@ -93,90 +95,90 @@ int readNumber(wchar_t const*& p) {
 
 // Parses the flags, width, precision and length of a conversion after its '%'; p ends on
 // the conversion character (or the terminator).
-Spec parseSpec(wchar_t const*& p, va_list& args) {
-    Spec spec;
+Directive parseDirective(wchar_t const*& p, va_list& args) {
+    Directive directive;
     for (;; ++p) {
         if (*p == L'-') {
-            spec.left = true;
+            directive.left = true;
         } else if (*p == L'+') {
-            spec.plus = true;
+            directive.plus = true;
         } else if (*p == L' ') {
-            spec.space = true;
+            directive.space = true;
         } else if (*p == L'#') {
-            spec.alternate = true;
+            directive.alternate = true;
         } else if (*p == L'0') {
-            spec.zero = true;
+            directive.zero = true;
         } else {
             break;
         }
     }
     if (*p == L'*') {
         ++p;
-        spec.width = va_arg(args, int);
-        if (spec.width < 0) {
-            spec.left = true;
-            spec.width = spec.width == INT32_MIN ? 0 : -spec.width;
+        directive.width = va_arg(args, int);
+        if (directive.width < 0) {
+            directive.left = true;
+            directive.width = directive.width == INT32_MIN ? 0 : -directive.width;
         }
     } else {
-        spec.width = readNumber(p);
+        directive.width = readNumber(p);
     }
     if (*p == L'.') {
         ++p;
         if (*p == L'*') {
             ++p;
-            spec.precision = va_arg(args, int);
-            if (spec.precision < 0) {
-                spec.precision = -1;
+            directive.precision = va_arg(args, int);
+            if (directive.precision < 0) {
+                directive.precision = -1;
             }
         } else {
-            spec.precision = readNumber(p);
+            directive.precision = readNumber(p);
         }
     }
     if (p[0] == L'h' && p[1] == L'h') {
-        spec.size = Size::Char;
+        directive.size = Size::Char;
         p += 2;
     } else if (p[0] == L'l' && p[1] == L'l') {
-        spec.size = Size::LongLong;
+        directive.size = Size::LongLong;
         p += 2;
     } else if (p[0] == L'I' && p[1] == L'6' && p[2] == L'4') {
-        spec.size = Size::LongLong;
+        directive.size = Size::LongLong;
         p += 3;
     } else if (p[0] == L'I' && p[1] == L'3' && p[2] == L'2') {
-        spec.size = Size::Default;
+        directive.size = Size::Default;
         p += 3;
     } else if (*p == L'h') {
-        spec.size = Size::Short;
+        directive.size = Size::Short;
         ++p;
     } else if (*p == L'l') {
-        spec.size = Size::Long;
+        directive.size = Size::Long;
         ++p;
     } else if (*p == L'w') {
-        spec.size = Size::Wide;
+        directive.size = Size::Wide;
         ++p;
     } else if (*p == L'L') {
-        spec.size = Size::LongDouble;
+        directive.size = Size::LongDouble;
         ++p;
     } else if (*p == L'I' || *p == L'z' || *p == L't') {
-        spec.size = Size::Pointer;
+        directive.size = Size::Pointer;
         ++p;
     } else if (*p == L'j') {
-        spec.size = Size::LongLong;
+        directive.size = Size::LongLong;
         ++p;
     }
-    spec.conversion = *p;
-    return spec;
+    directive.conversion = *p;
+    return directive;
 }
 
 // Writes text padded to the width: zeros with the '0' flag (as Windows pads strings),
 // spaces otherwise.
-void putPadded(Output& out, Spec const& spec, wchar_t const* text, std::size_t n) {
-    std::size_t const width = static_cast<std::size_t>(spec.width);
+void putPadded(Output& out, Directive const& directive, wchar_t const* text, std::size_t n) {
+    std::size_t const width = static_cast<std::size_t>(directive.width);
     std::size_t const pad = width > n ? width - n : 0;
-    if (!spec.left) {
-        out.repeat(spec.zero ? L'0' : L' ', pad);
+    if (!directive.left) {
+        out.repeat(directive.zero ? L'0' : L' ', pad);
     }
     out.put(text, n);
-    if (spec.left) {
+    if (directive.left) {
         out.repeat(L' ', pad);
     }
 }
@@ -192,21 +194,21 @@ std::wstring widen(char const* text, std::size_t n) {
 }
 
 // Whether a string or character conversion takes a narrow argument.
-bool isNarrow(Spec const& spec) {
-    bool const upper = spec.conversion == L'S' || spec.conversion == L'C';
-    if (spec.size == Size::Short || spec.size == Size::Char) {
+bool isNarrow(Directive const& directive) {
+    bool const upper = directive.conversion == L'S' || directive.conversion == L'C';
+    if (directive.size == Size::Short || directive.size == Size::Char) {
         return true;
     }
-    if (spec.size == Size::Long || spec.size == Size::Wide) {
+    if (directive.size == Size::Long || directive.size == Size::Wide) {
         return false;
     }
     return upper;
 }
 
-void formatString(Output& out, Spec const& spec, va_list& args) {
+void formatString(Output& out, Directive const& directive, va_list& args) {
     std::size_t const limit =
-        spec.precision < 0 ? SIZE_MAX : static_cast<std::size_t>(spec.precision);
-    if (isNarrow(spec)) {
+        directive.precision < 0 ? SIZE_MAX : static_cast<std::size_t>(directive.precision);
+    if (isNarrow(directive)) {
         char const* text = va_arg(args, char const*);
         if (text == nullptr) {
             text = "(null)";
@@ -216,7 +218,7 @@ void formatString(Output& out, Spec const& spec, va_list& args) {
             ++n;
         }
         std::wstring const wide = widen(text, n);
-        putPadded(out, spec, wide.c_str(), n);
+        putPadded(out, directive, wide.c_str(), n);
     } else {
         wchar_t const* text = va_arg(args, wchar_t const*);
         if (text == nullptr) {
@@ -226,46 +228,55 @@ void formatString(Output& out, Spec const& spec, va_list& args) {
         while (n < limit && text[n] != 0) {
             ++n;
         }
-        putPadded(out, spec, text, n);
+        putPadded(out, directive, text, n);
     }
 }
 
-void formatCharacter(Output& out, Spec const& spec, va_list& args) {
+void formatCharacter(Output& out, Directive const& directive, va_list& args) {
     // Both kinds arrive promoted to int.
     int const value = va_arg(args, int);
-    wchar_t const c = isNarrow(spec) ? static_cast<wchar_t>(static_cast<unsigned char>(value))
-                                     : static_cast<wchar_t>(value);
-    putPadded(out, spec, &c, 1);
+    wchar_t const c = isNarrow(directive) ? static_cast<wchar_t>(static_cast<unsigned char>(value))
+                                          : static_cast<wchar_t>(value);
+    putPadded(out, directive, &c, 1);
 }
 
 // The C99 narrow formatter: MinGW-w64's own on Windows (the Microsoft one writes other
 // exponents), the C library's elsewhere.
-int cFormatV(char* buffer, std::size_t size, char const* spec, va_list args) {
+int cFormatV(char* buffer, std::size_t size, char const* directive, va_list args) {
 #if defined(__MINGW32__)
-    return __mingw_vsnprintf(buffer, size, spec, args);
+    return __mingw_vsnprintf(buffer, size, directive, args);
 #else
-    return std::vsnprintf(buffer, size, spec, args);
+    return std::vsnprintf(buffer, size, directive, args);
 #endif
 }
 
-int cFormat(char* buffer, std::size_t size, char const* spec, ...) {
+int cFormat(char* buffer, std::size_t size, char const* directive, ...) {
     va_list args;
-    va_start(args, spec);
-    int const n = cFormatV(buffer, size, spec, args);
+    va_start(args, directive);
+    int const n = cFormatV(buffer, size, directive, args);
     va_end(args);
     return n;
 }
 
-// The narrow conversion spec "%<flags><width>.<precision><length><conversion>".
-std::string narrowSpec(Spec const& spec, char const* length, char conversion) {
+// The narrow directive "%<flags><width>.<precision><length><conversion>".
+std::string narrowDirective(Directive const& directive, char const* length, char conversion) {
     std::string text = "%";
-    if (spec.left) text += '-';
-    if (spec.plus) text += '+';
-    if (spec.space) text += ' ';
-    if (spec.alternate) text += '#';
-    if (spec.zero) text += '0';
-    if (spec.width > 0) text += std::to_string(spec.width);
-    if (spec.precision >= 0) text += '.' + std::to_string(spec.precision);
+    std::pair<bool, char> const flags[] = {{directive.left, '-'},
+                                           {directive.plus, '+'},
+                                           {directive.space, ' '},
+                                           {directive.alternate, '#'},
+                                           {directive.zero, '0'}};
+    for (auto const& flag : flags) {
+        if (flag.first) {
+            text += flag.second;
+        }
+    }
+    if (directive.width > 0) {
+        text += std::to_string(directive.width);
+    }
+    if (directive.precision >= 0) {
+        text += '.' + std::to_string(directive.precision);
+    }
     text += length;
     text += conversion;
     return text;
@@ -273,9 +284,9 @@ std::string narrowSpec(Spec const& spec, char const* length, char conversion) {
 
 // Formats one value with the C99 formatter and writes it widened (the text is ASCII).
 template <class T>
-void putCFormatted(Output& out, std::string const& spec, T value) {
+void putCFormatted(Output& out, std::string const& directive, T value) {
     char small[64];
-    int const n = cFormat(small, sizeof small, spec.c_str(), value);
+    int const n = cFormat(small, sizeof small, directive.c_str(), value);
     if (n < 0) {
         return;
     }
@@ -283,7 +294,7 @@ void putCFormatted(Output& out, std::string const& spec, T value) {
     char const* text = small;
     if (static_cast<std::size_t>(n) >= sizeof small) {
         large.resize(static_cast<std::size_t>(n) + 1);
-        cFormat(&large[0], large.size(), spec.c_str(), value);
+        cFormat(&large[0], large.size(), directive.c_str(), value);
         text = large.c_str();
     }
     for (int k = 0; k < n; ++k) {
@@ -291,12 +302,13 @@ void putCFormatted(Output& out, std::string const& spec, T value) {
     }
 }
 
-void formatInteger(Output& out, Spec const& spec, va_list& args) {
-    char const conversion = static_cast<char>(spec.conversion == L'i' ? L'd' : spec.conversion);
+void formatInteger(Output& out, Directive const& directive, va_list& args) {
+    char const conversion =
+        static_cast<char>(directive.conversion == L'i' ? L'd' : directive.conversion);
     bool const isSigned = conversion == 'd';
     long long value = 0;
     unsigned long long bits = 0;
-    switch (spec.size) {
+    switch (directive.size) {
         case Size::Char: {
             int const raw = va_arg(args, int);  // promoted to int
             value = static_cast<signed char>(raw);
@@ -326,7 +338,7 @@ void formatInteger(Output& out, Spec const& spec, va_list& args) {
             bits = static_cast<unsigned int>(value);
             break;
     }
-    std::string const text = narrowSpec(spec, "ll", conversion);
+    std::string const text = narrowDirective(directive, "ll", conversion);
     if (isSigned) {
         putCFormatted(out, text, value);
     } else {
@@ -334,64 +346,65 @@ void formatInteger(Output& out, Spec const& spec, va_list& args) {
     }
 }
 
-void formatNonFinite(Output& out, Spec const& spec, double value) {
-    bool const upper = spec.conversion >= L'A' && spec.conversion <= L'Z';
+void formatNonFinite(Output& out, Directive const& directive, double value) {
+    bool const upper = directive.conversion >= L'A' && directive.conversion <= L'Z';
     std::wstring text;
     if (std::isnan(value)) {
         text = upper ? L"NAN" : L"nan";
     } else {
-        text = std::signbit(value) ? L"-" : (spec.plus ? L"+" : (spec.space ? L" " : L""));
+        text =
+            std::signbit(value) ? L"-" : (directive.plus ? L"+" : (directive.space ? L" " : L""));
         text += upper ? L"INF" : L"inf";
     }
-    Spec padding = spec;
+    Directive padding = directive;
     padding.zero = false;
     putPadded(out, padding, text.c_str(), text.size());
 }
 
-void formatFloat(Output& out, Spec const& spec, va_list& args) {
-    char const conversion = static_cast<char>(spec.conversion);
-    if (spec.size == Size::LongDouble) {
+void formatFloat(Output& out, Directive const& directive, va_list& args) {
+    char const conversion = static_cast<char>(directive.conversion);
+    if (directive.size == Size::LongDouble) {
         long double const value = va_arg(args, long double);
         if (!std::isfinite(value)) {
-            formatNonFinite(out, spec, static_cast<double>(value));
+            formatNonFinite(out, directive, static_cast<double>(value));
             return;
         }
-        putCFormatted(out, narrowSpec(spec, "L", conversion), value);
+        putCFormatted(out, narrowDirective(directive, "L", conversion), value);
         return;
     }
     double const value = va_arg(args, double);
     if (!std::isfinite(value)) {
-        formatNonFinite(out, spec, value);
+        formatNonFinite(out, directive, value);
         return;
     }
-    putCFormatted(out, narrowSpec(spec, "", conversion), value);
+    putCFormatted(out, narrowDirective(directive, "", conversion), value);
 }
 
 // Windows writes a pointer as all its hex digits in upper case ("0X" first with '#').
-void formatPointer(Output& out, Spec const& spec, va_list& args) {
+void formatPointer(Output& out, Directive const& directive, va_list& args) {
     auto const value = reinterpret_cast<std::uintptr_t>(va_arg(args, void*));
-    std::wstring text = spec.alternate ? L"0X" : L"";
+    std::wstring text = directive.alternate ? L"0X" : L"";
     for (int shift = static_cast<int>(sizeof(void*)) * 8 - 4; shift >= 0; shift -= 4) {
         text += L"0123456789ABCDEF"[(value >> shift) & 0xF];
     }
-    Spec padding = spec;
+    Directive padding = directive;
     padding.zero = false;
     putPadded(out, padding, text.c_str(), text.size());
 }
 
 // Formats one conversion; false when the conversion character is unknown.
-bool formatConversion(Output& out, Spec const& spec, va_list& args) {
-    switch (spec.conversion) {
+bool formatConversion(Output& out, Directive const& directive, va_list& args) {
+    switch (directive.conversion) {
         case L'%':
             out.put(L'%');
             return true;
         case L's':
         case L'S':
-            formatString(out, spec, args);
+            formatString(out, directive, args);
             return true;
         case L'c':
         case L'C':
-            formatCharacter(out, spec, args);
+            formatCharacter(out, directive, args);
             return true;
         case L'd':
         case L'i':
@@ -399,7 +412,7 @@ bool formatConversion(Output& out, Spec const& spec, va_list& args) {
         case L'o':
         case L'x':
         case L'X':
-            formatInteger(out, spec, args);
+            formatInteger(out, directive, args);
             return true;
         case L'e':
         case L'E':
@@ -409,10 +422,10 @@ bool formatConversion(Output& out, Spec const& spec, va_list& args) {
         case L'G':
         case L'a':
         case L'A':
-            formatFloat(out, spec, args);
+            formatFloat(out, directive, args);
             return true;
         case L'p':
-            formatPointer(out, spec, args);
+            formatPointer(out, directive, args);
             return true;
         case L'n':
             (void)va_arg(args, void*);  // writes nothing, like the current Windows runtime
@@ -438,12 +451,12 @@ int formatWide(wchar_t* buffer, std::size_t size, wchar_t const* fmt, va_list ar
         }
         wchar_t const* const start = p;
         ++p;
-        Spec const spec = parseSpec(p, work);
+        Directive const directive = parseDirective(p, work);
         if (*p == 0) {
-            out.put(start, static_cast<std::size_t>(p - start));  // a spec cut off by the end
+            out.put(start, static_cast<std::size_t>(p - start));  // a directive cut off by the end
             break;
         }
-        if (!formatConversion(out, spec, work)) {
+        if (!formatConversion(out, directive, work)) {
             out.put(start, static_cast<std::size_t>(p - start) + 1);  // copied as written
         }
     }

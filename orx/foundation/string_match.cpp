@@ -27,8 +27,8 @@ public:
         std::size_t start = 0;
         for (;;) {
             std::size_t const end = pattern.find(delimiter, start);
-            if (alternative(text, pattern.substr(start, end == View::npos ? View::npos
-                                                                          : end - start))) {
+            if (alternative(text,
+                            pattern.substr(start, end == View::npos ? View::npos : end - start))) {
                 return true;
             }
             if (end == View::npos) {
@@ -91,8 +91,7 @@ private:
     // of the plain recursion, but patterns with many stars no longer take exponential time.
     bool recurse(View text, View pattern) {
         Key const key(static_cast<std::size_t>(text.data() - m_text.data()),
-                      static_cast<std::size_t>(pattern.data() - m_pattern.data()),
-                      pattern.size());
+                      static_cast<std::size_t>(pattern.data() - m_pattern.data()), pattern.size());
         if (m_failed.count(key) != 0) {
             return false;
         }

@@ -27,8 +27,8 @@ void mapCase(wchar_t* text, int count, bool upper) {
         return;
     }
     // Plain case mapping: in place is allowed for exactly these two flags.
-    LCMapStringW(LOCALE_USER_DEFAULT, upper ? LCMAP_UPPERCASE : LCMAP_LOWERCASE, text, count,
-                 text, count);
+    LCMapStringW(LOCALE_USER_DEFAULT, upper ? LCMAP_UPPERCASE : LCMAP_LOWERCASE, text, count, text,
+                 count);
 }
 
 }  // namespace internal

@@ -20,8 +20,8 @@ COrxString implode(COrxArrayTempl<COrxString> const& list, wchar_t const* sep) {
     return joined;
 }
 
-unsigned long strTok(COrxArrayTempl<COrxString>& tokens, wchar_t const* text,
-                     wchar_t const* sep, bool keepEmpty) {
+unsigned long strTok(COrxArrayTempl<COrxString>& tokens, wchar_t const* text, wchar_t const* sep,
+                     bool keepEmpty) {
     if (text == nullptr) {
         return 0;
     }
@@ -31,9 +31,8 @@ unsigned long strTok(COrxArrayTempl<COrxString>& tokens, wchar_t const* text,
     std::size_t start = 0;
     for (;;) {
         std::size_t const end = rest.find_first_of(separators, start);
-        std::wstring_view const token =
-            rest.substr(start, end == std::wstring_view::npos ? std::wstring_view::npos
-                                                              : end - start);
+        std::wstring_view const token = rest.substr(
+            start, end == std::wstring_view::npos ? std::wstring_view::npos : end - start);
         if (keepEmpty || !token.empty()) {
             tokens.append(COrxString(std::wstring(token).c_str()));
             ++count;
@@ -56,8 +55,8 @@ double atof(wchar_t const* text) {
         return std::numeric_limits<double>::quiet_NaN();
     }
     std::wstring_view view(text);
-    while (!view.empty() && (view.front() == L' ' || (view.front() >= L'\t' &&
-                                                      view.front() <= L'\r'))) {
+    while (!view.empty() &&
+           (view.front() == L' ' || (view.front() >= L'\t' && view.front() <= L'\r'))) {
         view.remove_prefix(1);
     }
     bool const negative = !view.empty() && view.front() == L'-';

@@ -26,8 +26,7 @@ ORX_API unsigned long strTok(COrxArrayTempl<COrxString>& tokens, wchar_t const* 
                              wchar_t const* sep, bool keepEmpty);
 
 // A fresh list filled by strTok with the same arguments.
-ORX_API COrxArrayTempl<COrxString> explode(wchar_t const* text, wchar_t const* sep,
-                                           bool keepEmpty);
+ORX_API COrxArrayTempl<COrxString> explode(wchar_t const* text, wchar_t const* sep, bool keepEmpty);
 
 // The decimal number at the start of text, after white space: optional sign, digits with an
 // optional point ('.' whatever the locale) and an optional exponent. What follows the number

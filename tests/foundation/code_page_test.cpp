@@ -50,11 +50,17 @@ TEST(CodePageTest, Utf8BytesAndIllFormedInput) {
     EXPECT_TRUE(fromBytes("a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", 65001) == text);
     // UTF-8 carries no escapes: the text comes back as written.
     EXPECT_TRUE(fromBytes("\\U+0041", 65001) == L"\\U+0041");
-    EXPECT_TRUE(fromBytes("a\xFF" "b", 65001) == L"a\uFFFDb");
+    EXPECT_TRUE(fromBytes("a\xFF"
+                          "b",
+                          65001) == L"a\uFFFDb");
     EXPECT_TRUE(fromBytes("a\xC3", 65001) == L"a\uFFFD");
-    EXPECT_TRUE(fromBytes("a\xE2\x82" "b", 65001) == L"a\uFFFDb");
+    EXPECT_TRUE(fromBytes("a\xE2\x82"
+                          "b",
+                          65001) == L"a\uFFFDb");
     wchar_t const lone[] = {L'a', static_cast<wchar_t>(0xD800), L'b', 0};
-    EXPECT_EQ(toBytes(COrxString(lone), 65001), "a\xEF\xBF\xBD" "b");
+    EXPECT_EQ(toBytes(COrxString(lone), 65001),
+              "a\xEF\xBF\xBD"
+              "b");
 }
 
 TEST(CodePageTest, CharactersOutsideTheCodePageSurviveTheRoundTrip) {
@@ -62,10 +68,11 @@ TEST(CodePageTest, CharactersOutsideTheCodePageSurviveTheRoundTrip) {
     // The same bytes in both builds: escapes by UTF-16 code unit, the literal look-alike
     // escaped too.
     EXPECT_EQ(toBytes(text, 1252),
-              "Gr\xFC\xDF" "e \x80 \\U+4e2d \\U+263a \\U+d83d\\U+de00 \\U+005cU+0041 \\ ok");
+              "Gr\xFC\xDF"
+              "e \x80 \\U+4e2d \\U+263a \\U+d83d\\U+de00 \\U+005cU+0041 \\ ok");
     EXPECT_TRUE(fromBytes(toBytes(text, 1252).c_str(), 1252) == text);
-    int const codePages[] = {437, 850, 852, 866, 932, 936, 1250, 1251, 1252, 1253, 1254, 1257,
-                             20866, 28591, 28592, 28595, 28599, 28605};
+    int const codePages[] = {437,  850,  852,  866,   932,   936,   1250,  1251,  1252,
+                             1253, 1254, 1257, 20866, 28591, 28592, 28595, 28599, 28605};
     for (int codePage : codePages) {
         std::string const bytes = toBytes(text, codePage);
         EXPECT_TRUE(fromBytes(bytes.c_str(), codePage) == text) << codePage;

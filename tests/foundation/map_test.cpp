@@ -262,7 +262,7 @@ TEST(CPtrMapTest, FreedReferencesAreReusedFirstFreedFirst) {
     EXPECT_EQ(Handles::decrRef(two), 0);
     EXPECT_EQ(Handles::decrRef(one), 1);
     EXPECT_EQ(Handles::decrRef(one), 0);
-    EXPECT_EQ(Handles::ptrAt(two), &c);  // the pointer is neither freed nor cleared
+    EXPECT_EQ(Handles::ptrAt(two), &c);   // the pointer is neither freed nor cleared
     EXPECT_EQ(Handles::newRef(&a), two);  // freed first
     EXPECT_EQ(Handles::newRef(&b), one);
     EXPECT_EQ(Handles::newRef(&c), 3);  // the table grows only when nothing is free

@@ -16,8 +16,8 @@ bool textIs(COrxString const& text, wchar_t const* expected) {
 
 TEST(NumberTextTest, DecimalModeGivesTheDigitsAfterThePoint) {
     EXPECT_TRUE(textIs(orxRtoS(20180315.143005, Orx::lDecimal, 8), L"20180315.14300500"));
-    EXPECT_TRUE(textIs(orxRtoS(20180315.143005, Orx::lDecimal, 8).lfill(17, L'0'),
-                       L"20180315.14300500"));
+    EXPECT_TRUE(
+        textIs(orxRtoS(20180315.143005, Orx::lDecimal, 8).lfill(17, L'0'), L"20180315.14300500"));
     EXPECT_TRUE(textIs(orxRtoS(19000101.0, Orx::lDecimal, 8), L"19000101.00000000"));
     EXPECT_TRUE(textIs(orxRtoS(-2.5, Orx::lDecimal, 2), L"-2.50"));
     EXPECT_TRUE(textIs(orxRtoS(2.675, Orx::lDecimal, 2), L"2.67"));  // the binary value rounds
@@ -65,20 +65,18 @@ TEST(NumberTextTest, ReadingAcceptsEveryMode) {
         double value;
     };
     Case const cases[] = {
-        {L"15.5", 15.5},          {L" -2 ", -2.0},          {L"1.55E+01", 15.5},
-        {L"1'-3.50\"", 15.5},     {L"1'-3 1/2\"", 15.5},    {L"-1'-3 1/2\"", -15.5},
-        {L"1' 3\"", 15.0},        {L"2'", 24.0},            {L"1'-3", 15.0},
-        {L"0'-0 3/8\"", 0.375},   {L"15 1/2", 15.5},        {L"15-1/2", 15.5},
-        {L"3/4", 0.75},           {L"-3/4", -0.75},         {L"7\"", 7.0},
-        {L"+.5", 0.5},
+        {L"15.5", 15.5},       {L" -2 ", -2.0},         {L"1.55E+01", 15.5}, {L"1'-3.50\"", 15.5},
+        {L"1'-3 1/2\"", 15.5}, {L"-1'-3 1/2\"", -15.5}, {L"1' 3\"", 15.0},   {L"2'", 24.0},
+        {L"1'-3", 15.0},       {L"0'-0 3/8\"", 0.375},  {L"15 1/2", 15.5},   {L"15-1/2", 15.5},
+        {L"3/4", 0.75},        {L"-3/4", -0.75},        {L"7\"", 7.0},       {L"+.5", 0.5},
     };
     for (Case const& c : cases) {
         double value = -999.0;
         EXPECT_TRUE(orxAtoF(c.text, value)) << (&c - cases);
         EXPECT_DOUBLE_EQ(value, c.value) << (&c - cases);
     }
-    wchar_t const* const rejected[] = {L"",    L"  ",  L"abc", L"1/0", L"3-1",  L"1'-x",
-                                       L"1e999", L"--1", L"1 2", L"1/2/3", L"'", L"1\"2"};
+    wchar_t const* const rejected[] = {L"",      L"  ",  L"abc", L"1/0",   L"3-1", L"1'-x",
+                                       L"1e999", L"--1", L"1 2", L"1/2/3", L"'",   L"1\"2"};
     for (wchar_t const* text : rejected) {
         double value = -999.0;
         EXPECT_FALSE(orxAtoF(text, value)) << (&text - rejected);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <random>
 #include <string>
 
@@ -18,9 +19,10 @@ namespace {
 // Windows, one on Linux) and look-alikes of the escapes themselves.
 std::wstring randomText(std::mt19937& random) {
     static wchar_t const* const pieces[] = {
-        L"a", L"Z", L" ", L"&", L"<", L">", L"\"", L"'", L"\\", L"\t", L"\n", L"\x01", L"\x7f",
-        L"\u00e4", L"\u00df", L"\u20ac", L"\U0001F600", L"U+", L"\\U+0041", L"&amp;", L"&#65;",
-        L"\\x41", L"\\n", L"%", L";", L"#", L"x"};
+        L"a",      L"Z",      L" ",          L"&",  L"<",        L">",     L"\"",
+        L"'",      L"\\",     L"\t",         L"\n", L"\x01",     L"\x7f",  L"\u00e4",
+        L"\u00df", L"\u20ac", L"\U0001F600", L"U+", L"\\U+0041", L"&amp;", L"&#65;",
+        L"\\x41",  L"\\n",    L"%",          L";",  L"#",        L"x"};
     std::uniform_int_distribution<int> count(0, 12);
     std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
     std::wstring text;
@@ -68,8 +70,9 @@ TEST(COrxStringEscapeTest, HtmlReferences) {
     EXPECT_TRUE(COrxString(L"&amp;lt; &#x41;&#65;&euro;&nbsp;&szlig;&#128512;").unEscapeHtml() ==
                 L"&lt; AA\u20ac\u00a0\u00df\U0001F600");
     // Not references: kept as written.
-    wchar_t const* const kept[] = {L"&foo;", L"&#;", L"& text;", L"&#1114112;", L"&#x;",
-                                   L"&#12a;", L"&amp", L"&", L"&#0;", L"&verylongname;"};
+    wchar_t const* const kept[] = {L"&foo;", L"&#;",           L"& text;", L"&#1114112;",
+                                   L"&#x;",  L"&#12a;",        L"&amp",    L"&",
+                                   L"&#0;",  L"&verylongname;"};
     for (wchar_t const* text : kept) {
         EXPECT_TRUE(COrxString(text).unEscapeHtml() == text);
     }
@@ -106,8 +109,9 @@ TEST(COrxStringEscapeTest, EveryEscapeRoundTripsOnRandomTexts) {
 
 TEST(COrxStringEscapeTest, EnvironmentReferencesExpandAndUnknownOnesStay) {
     setVariable(L"ORX_TEST_EXPAND", L"W\u00e4rme");
-    COrxString s(L"x%ORX_TEST_EXPAND%y|%orx_test_expand%|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|"
-                 L"100%|%%|%");
+    COrxString s(
+        L"x%ORX_TEST_EXPAND%y|%orx_test_expand%|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|"
+        L"100%|%%|%");
     s.expandEnvironmentStrings();
     EXPECT_TRUE(s == L"xW\u00e4rmey|W\u00e4rme|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|100%|%%|%");
     EXPECT_TRUE(COrxString().expandEnvironmentStrings().isNull());

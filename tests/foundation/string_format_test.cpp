@@ -44,9 +44,9 @@ TEST(COrxStringFormatTest, StringsAndCharactersFollowTheWindowsConventions) {
 TEST(COrxStringFormatTest, IntegersFollowC99) {
     EXPECT_EQ(formatted(L"%d|%i|%u|%x|%X|%o", -42, 7, 3000000000u, 255, 255, 8),
               "-42|7|3000000000|ff|FF|10");
-    EXPECT_EQ(formatted(L"[%5d][%-5d][%05d][%+d][% d][%.3d][%#x][%#o]", 42, 42, -42, 42, 42, 7,
-                        255, 8),
-              "[   42][42   ][-0042][+42][ 42][007][0xff][010]");
+    EXPECT_EQ(
+        formatted(L"[%5d][%-5d][%05d][%+d][% d][%.3d][%#x][%#o]", 42, 42, -42, 42, 42, 7, 255, 8),
+        "[   42][42   ][-0042][+42][ 42][007][0xff][010]");
     EXPECT_EQ(formatted(L"%lld|%I64d|%I64u|%llx", -1234567890123LL, 1LL << 40,
                         18446744073709551615ULL, 0x1234567890ULL),
               "-1234567890123|1099511627776|18446744073709551615|1234567890");
@@ -68,9 +68,9 @@ TEST(COrxStringFormatTest, FloatingPointWritesTheSameTextEverywhere) {
               "0.10000000000000001|2.500");
     double const inf = std::numeric_limits<double>::infinity();
     double const nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(formatted(L"%f|%e|%g|%+f|%F|%6.2f|%-5f|%05f", inf, -inf, nan, inf, inf, nan, inf,
-                        -inf),
-              "inf|-inf|nan|+inf|INF|   nan|inf  | -inf");
+    EXPECT_EQ(
+        formatted(L"%f|%e|%g|%+f|%F|%6.2f|%-5f|%05f", inf, -inf, nan, inf, inf, nan, inf, -inf),
+        "inf|-inf|nan|+inf|INF|   nan|inf  | -inf");
 }
 
 TEST(COrxStringFormatTest, PercentPointerAndOddConversions) {

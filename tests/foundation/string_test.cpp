@@ -310,8 +310,7 @@ TEST(COrxStringTest, MatchWildcardsAndAlternatives) {
     };
     for (Case const& c : cases) {
         EXPECT_EQ(COrxString(c.text).match(c.pattern, c.delimiter), c.matches)
-            << "text \"" << COrxString(c.text).len() << "\" pattern index "
-            << (&c - cases);
+            << "text \"" << COrxString(c.text).len() << "\" pattern index " << (&c - cases);
     }
     EXPECT_FALSE(COrxString().match(L"*", 0));
     EXPECT_FALSE(COrxString(L"a").match(nullptr, 0));
@@ -325,4 +324,19 @@ TEST(COrxStringTest, MatchWithManyStarsFinishes) {
     }
     EXPECT_TRUE(COrxString(text.c_str()).match((pattern + L"*").c_str(), 0));
     EXPECT_FALSE(COrxString(text.c_str()).match((pattern + L"*b").c_str(), 0));
+}
+
+TEST(COrxStringTest, StringListsCompareAndSortByTheStringRules) {
+    COrxArrayTempl<COrxString> list;
+    list.append(COrxString(L"b")).append(COrxString()).append(COrxString(L"a"));
+    list.append(COrxString(L""));
+    list.sort();
+    EXPECT_TRUE(list[0].isNull());  // null and empty are equal in order: the sort is stable
+    EXPECT_TRUE(list[1] == L"");
+    EXPECT_TRUE(list[2] == L"a");
+    EXPECT_TRUE(list[3] == L"b");
+    EXPECT_EQ(list.indexOf(COrxString(L"")), 1);  // but equality tells them apart
+    EXPECT_EQ(list.indexOf(COrxString()), 0);
+    COrxArrayTempl<COrxString> const copy(list);
+    EXPECT_TRUE(copy == list);
 }

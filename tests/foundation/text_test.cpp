@@ -53,7 +53,7 @@ TEST(TextTest, AtofReadsTheLeadingDecimalNumber) {
     EXPECT_EQ(ORX::atof(L"  -2.5e3xyz"), -2500.0);
     EXPECT_EQ(ORX::atof(L"+.5"), 0.5);
     EXPECT_EQ(ORX::atof(L"7."), 7.0);
-    EXPECT_EQ(ORX::atof(L"1e"), 1.0);  // an exponent without digits is not read
+    EXPECT_EQ(ORX::atof(L"1e"), 1.0);   // an exponent without digits is not read
     EXPECT_EQ(ORX::atof(L"1,5"), 1.0);  // the point is '.' whatever the locale
     EXPECT_EQ(ORX::atof(L"0.1"), 0.1);  // correctly rounded
     EXPECT_EQ(ORX::atof(L"1e999"), HUGE_VAL);

@@ -2,8 +2,8 @@
 #ifndef ORX_FOUNDATION_INTERNAL_STRING_INTERNAL_H
 #define ORX_FOUNDATION_INTERNAL_STRING_INTERNAL_H
 
-#include <cstdint>
 #include <cstdarg>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
