@@ -1,0 +1,29 @@
+// Free functions on whole polylines: flattening arcs into straight pieces, the orientation
+// of a closed polyline, and orienting a list of polylines.
+#ifndef ORX_POLYLINE_POLYLINE_FUNCTIONS_H
+#define ORX_POLYLINE_POLYLINE_FUNCTIONS_H
+
+#include "orx/foundation/array_templ.h"
+#include "orx/foundation/platform.h"
+#include "orx/polyline/vertex_array.h"
+
+namespace ORX {
+
+// The polyline with every arc replaced by straight pieces through points on the arc: k
+// inner points per arc, k = |trunc(n * theta / pi)| raised to at least 2 (n counts pieces
+// per half circle), or g_bulg_split (2) when n < 1. The result is rebuilt from the points,
+// closed only when its first and last points coincide. Empty in, empty out.
+ORX_API COrxVertexArray g_vl_expl(COrxVertexArray const& vl, int n);
+
+// True when the closed polyline runs counter-clockwise seen from the side the normal points
+// to: the sign of the area of its flattened corner points, taken in the plane of the normal.
+ORX_API bool g_vl_orient(COrxVertexArray const& vl, COrxVector3d const& normal);
+
+// Reverts every closed polyline of the list that does not run counter-clockwise seen from
+// normal; open polylines are left alone. Returns the list.
+ORX_API COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list,
+                                                   COrxVector3d const& normal);
+
+}  // namespace ORX
+
+#endif  // ORX_POLYLINE_POLYLINE_FUNCTIONS_H
