@@ -14,5 +14,6 @@
 #include "orx/polyline/vertex.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
+#include "orx/polyline/vertex_tools.h"
 
 #endif  // ORX_POLYLINE_POLYLINE_H

@@ -76,4 +76,29 @@ COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list
     return list;
 }
 
+namespace {
+
+bool projectPoint(COrxPlane const& pl, COrxPoint3d const& p, COrxVector3d const& dir,
+                  COrxPoint3d& out) {
+    return pl.intersectWith(p, dir, out);
+}
+
+}  // namespace
+
+COrxVertexArray vlPlaneProje(COrxPlane const& pl, COrxVertexArray const& vl,
+                             COrxVector3d const& dir) {
+    bool const keepArcs = pl.normal().isParallelTo(COrxVector3d::kZAxis);
+    COrxVertexArray const source = keepArcs ? vl : g_vl_expl(vl, kProjectionPiecesPerHalfCircle);
+    COrxVertexArray projected;
+    projected.setNormal(pl.normal());
+    for (int k = 0; k < source.len(); ++k) {
+        COrxVertex const& v = source[k];
+        COrxPoint3d start, end;
+        if (projectPoint(pl, v.startPoint(), dir, start) && projectPoint(pl, v.endPoint(), dir, end)) {
+            projected.append(COrxVertex(start, end, v.bulge()));
+        }
+    }
+    return projected;
+}
+
 }  // namespace ORX

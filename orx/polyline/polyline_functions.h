@@ -5,6 +5,7 @@
 
 #include "orx/foundation/array_templ.h"
 #include "orx/foundation/platform.h"
+#include "orx/geom/plane.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {
@@ -23,6 +24,16 @@ ORX_API bool g_vl_orient(COrxVertexArray const& vl, COrxVector3d const& normal);
 // normal; open polylines are left alone. Returns the list.
 ORX_API COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list,
                                                    COrxVector3d const& normal);
+
+// The polyline projected along dir onto the plane, point by point as plPlaneProje does. When
+// the plane is parallel to the XY plane the projection is a translation and the bulges are
+// kept; onto an inclined plane a circle would become an ellipse, so every arc is first
+// flattened into straight pieces (kProjectionPiecesPerHalfCircle per half circle) and only
+// straight segments are projected. A segment whose point misses the plane (dir parallel to
+// it) is dropped.
+constexpr int kProjectionPiecesPerHalfCircle = 16;
+ORX_API COrxVertexArray vlPlaneProje(COrxPlane const& pl, COrxVertexArray const& vl,
+                                     COrxVector3d const& dir);
 
 }  // namespace ORX
 
