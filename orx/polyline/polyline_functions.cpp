@@ -76,6 +76,32 @@ COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list
     return list;
 }
 
+double g_vl_area(COrxVertexArray const& vl) {
+    if (vl.isEmpty()) {
+        return 0.0;
+    }
+    // Shoelace over the corner sequence start 0, end 0, start 1, ... taken cyclically, so
+    // that gaps count as straight segments (and separate loops of one polyline add up);
+    // relative to the first point, so that large coordinates do not cancel.
+    COrxPoint3d const origin = vl[0].startPoint();
+    double twiceChords = 0.0;
+    double segments = 0.0;
+    for (int k = 0; k < vl.len(); ++k) {
+        COrxVertex const& v = vl[k];
+        COrxVector3d const start = v.startPoint() - origin;
+        COrxVector3d const end = v.endPoint() - origin;
+        COrxVector3d const next = vl[(k + 1) % vl.len()].startPoint() - origin;
+        twiceChords += start.x * end.y - end.x * start.y;
+        twiceChords += end.x * next.y - next.x * end.y;
+        if (!v.isStraight()) {
+            double const theta = 4.0 * std::atan(v.bulge());
+            double const r = v.radius();
+            segments += r * r / 2 * (theta - std::sin(theta));
+        }
+    }
+    return twiceChords / 2 + segments;
+}
+
 namespace {
 
 bool projectPoint(COrxPlane const& pl, COrxPoint3d const& p, COrxVector3d const& dir,

@@ -25,6 +25,13 @@ ORX_API bool g_vl_orient(COrxVertexArray const& vl, COrxVector3d const& normal);
 ORX_API COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list,
                                                    COrxVector3d const& normal);
 
+// Signed area enclosed by the polyline, exact for arcs: the shoelace sum over the chords
+// plus the circular segment of every arc, r^2 / 2 * (theta - sin theta) with the arc's
+// signed included angle theta. Positive for a counter-clockwise outline seen from +Z. An
+// open polyline counts as closed by a straight segment from its end back to its start. 0
+// when empty.
+ORX_API double g_vl_area(COrxVertexArray const& vl);
+
 // The polyline projected along dir onto the plane, point by point as plPlaneProje does. When
 // the plane is parallel to the XY plane the projection is a translation and the bulges are
 // kept; onto an inclined plane a circle would become an ellipse, so every arc is first
