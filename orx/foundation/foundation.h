@@ -12,5 +12,11 @@
 #include "orx/foundation/array_templ.h"
 #include "orx/foundation/obj.h"
 #include "orx/foundation/platform.h"
+// The wide string, its text functions, the number text of drawings, and the maps.
+#include "orx/foundation/map.h"
+#include "orx/foundation/number_text.h"
+#include "orx/foundation/ptr_map.h"
+#include "orx/foundation/string.h"
+#include "orx/foundation/text.h"
 
 #endif  // ORX_FOUNDATION_FOUNDATION_H

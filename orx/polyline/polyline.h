@@ -13,6 +13,7 @@
 #include "orx/polyline/polyline_functions.h"
 #include "orx/polyline/vertex.h"
 #include "orx/polyline/vertex_array.h"
+#include "orx/polyline/vertex_array_ex.h"
 #include "orx/polyline/vertex_functions.h"
 #include "orx/polyline/vertex_tools.h"
 

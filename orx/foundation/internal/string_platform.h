@@ -1,0 +1,39 @@
+// The platform-dependent pieces of COrxString, one implementation per platform:
+// code_page_win32.cpp / code_page_posix.cpp and string_system_win32.cpp /
+// string_system_posix.cpp, selected by the build.
+#ifndef ORX_FOUNDATION_INTERNAL_STRING_PLATFORM_H
+#define ORX_FOUNDATION_INTERNAL_STRING_PLATFORM_H
+
+#include <string>
+#include <string_view>
+
+namespace ORX {
+namespace internal {
+
+// The Windows number of the UTF-8 code page.
+constexpr int kUtf8CodePage = 65001;
+
+// Narrow text of a code page to wide text. Undecodable bytes become the character Windows
+// gives them. False (text untouched) when the code page is unknown to the platform.
+bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text);
+
+// Wide text to narrow text with no best-fit substitutes. lossless is false when some
+// character could not be represented (the code page's default character stands in for it);
+// UTF-8 writes unpaired surrogates as U+FFFD and counts as lossless. False (bytes untouched)
+// when the code page is unknown to the platform.
+bool encodeCodePage(std::wstring_view text, int codePage, std::string& bytes, bool& lossless);
+
+// Whether one character (one code point: a surrogate pair, a lone code unit, or a 32-bit
+// wchar_t) converts to codePage exactly and back.
+bool canEncode(std::wstring_view character, int codePage);
+
+// The text with %NAME% references replaced by the environment's values.
+std::wstring expandEnvironment(std::wstring const& text);
+
+// Maps count characters of text to upper or lower case, in place.
+void mapCase(wchar_t* text, int count, bool upper);
+
+}  // namespace internal
+}  // namespace ORX
+
+#endif  // ORX_FOUNDATION_INTERNAL_STRING_PLATFORM_H

@@ -1,0 +1,6 @@
+// The exported map instantiations.
+#include "orx/foundation/map_impl.h"
+
+ORX_INSTANTIATE(COrxMapTempl<int, COrxString>);
+ORX_INSTANTIATE(COrxMapTempl<COrxString, COrxString>);
+ORX_INSTANTIATE(COrxMapTempl<COrxString, COrxArrayTempl<COrxString>>);

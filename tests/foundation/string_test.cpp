@@ -1,0 +1,342 @@
+#include "orx/foundation/string.h"
+
+#include <gtest/gtest.h>
+
+#include <cwchar>
+#include <string>
+
+TEST(COrxStringTest, NullAndEmptyAreEqualInOrderButNotInEquality) {
+    COrxString const none;
+    COrxString const fromNullPointer(nullptr);
+    COrxString const empty(L"");
+    EXPECT_TRUE(none.isNull());
+    EXPECT_FALSE(empty.isNull());
+    EXPECT_TRUE(none == fromNullPointer);
+    EXPECT_TRUE(none == COrxString::kNull);
+    EXPECT_FALSE(none == empty);
+    EXPECT_TRUE(none != empty);
+    EXPECT_EQ(none.len(), 0);
+    EXPECT_EQ(empty.len(), 0);
+    EXPECT_FALSE(none < empty);
+    EXPECT_FALSE(empty < none);
+    EXPECT_TRUE(none <= empty);
+    EXPECT_TRUE(none >= empty);
+    EXPECT_TRUE(none == static_cast<wchar_t const*>(nullptr));
+    EXPECT_FALSE(empty == static_cast<wchar_t const*>(nullptr));
+    EXPECT_TRUE(empty == L"");
+    EXPECT_FALSE(none == L"");
+    EXPECT_TRUE(static_cast<wchar_t const*>(none) == nullptr);
+
+    // Copies and assignments keep the distinction.
+    COrxString copy(empty);
+    EXPECT_FALSE(copy.isNull());
+    copy = none;
+    EXPECT_TRUE(copy.isNull());
+    copy = L"x";
+    copy = static_cast<wchar_t const*>(nullptr);
+    EXPECT_TRUE(copy.isNull());
+    EXPECT_TRUE(COrxString(L"a").setNull().isNull());
+}
+
+TEST(COrxStringTest, ComparisonIsByCharacterCode) {
+    COrxString const abc(L"abc");
+    EXPECT_TRUE(abc == L"abc");
+    EXPECT_TRUE(L"abc" == abc);
+    EXPECT_FALSE(abc == L"ABC");
+    EXPECT_TRUE(abc < L"abd");
+    EXPECT_TRUE(abc < L"abcd");
+    EXPECT_TRUE(abc > L"ab");
+    EXPECT_TRUE(abc > L"ABC");
+    EXPECT_TRUE(abc > static_cast<wchar_t const*>(nullptr));
+    EXPECT_TRUE(abc <= L"abc");
+    EXPECT_TRUE(abc >= L"abc");
+    wchar_t const high[] = {static_cast<wchar_t>(0xE9), 0};
+    EXPECT_TRUE(abc < high);  // codes compare unsigned on both platforms
+    COrxString const other(L"abc");
+    EXPECT_TRUE(abc == other);
+    EXPECT_FALSE(abc != other);
+}
+
+TEST(COrxStringTest, IndexesCountFromTheEndAndPastTheEndGiveZero) {
+    COrxString const s(L"abcd");
+    EXPECT_EQ(s[0], L'a');
+    EXPECT_EQ(s[-1], L'd');
+    EXPECT_EQ(s[-4], L'a');
+    EXPECT_EQ(s[4], 0);
+    EXPECT_EQ(s[100], 0);
+    // Below -len the index folds as COrxArrayTempl's does: (4 - 5) mod 2^32 mod 4 = 3.
+    EXPECT_EQ(s[-5], L'd');
+    EXPECT_EQ(COrxString(L"x")[-7], L'x');
+    EXPECT_EQ(COrxString()[-1], 0);
+    EXPECT_EQ(COrxString(L"")[0], 0);
+}
+
+TEST(COrxStringTest, SetAtStoresAndKeepsTheLength) {
+    COrxString s(L"abc");
+    s.setAt(-1, L'z');
+    EXPECT_TRUE(s == L"abz");
+    s.setAt(3, L'!');
+    EXPECT_TRUE(s == L"abz!");
+    EXPECT_EQ(s.len(), 4);
+    s.setAt(1, 0);
+    EXPECT_EQ(s.len(), 1);
+    EXPECT_TRUE(s == L"a");
+    s.setAt(40, L'q');  // past the end: the text still ends at its terminator
+    EXPECT_TRUE(s == L"a");
+    COrxString fresh;
+    fresh.setAt(0, L'k');
+    EXPECT_TRUE(fresh == L"k");
+}
+
+TEST(COrxStringTest, BufferStartsAt16DoublesAndNeverShrinks) {
+    COrxString s;
+    wchar_t* const first = s.GetBuffer(0);
+    ASSERT_NE(first, nullptr);
+    s.ReleaseBuffer();
+    EXPECT_FALSE(s.isNull());
+    EXPECT_EQ(s.GetBuffer(16), first);  // 16 fit from the start
+    s.ReleaseBuffer();
+    wchar_t* const second = s.GetBuffer(17);  // 32 now
+    EXPECT_NE(second, first);
+    s.ReleaseBuffer();
+    EXPECT_EQ(s.GetBuffer(32), second);
+    s.ReleaseBuffer();
+    s = L"a long text of more than thirty-two characters, certainly";
+    wchar_t* const third = s.GetBuffer(0);
+    s.ReleaseBuffer();
+    s = L"short";
+    s.trim();
+    EXPECT_EQ(s.GetBuffer(0), third);  // never shrinks
+    s.ReleaseBuffer();
+    EXPECT_TRUE(s == L"short");
+}
+
+TEST(COrxStringTest, GetBufferSuspendsTheLengthUntilReleased) {
+    COrxString s(L"abc");
+    wchar_t* buffer = s.GetBuffer(40);
+    std::wcscpy(buffer, L"written by the caller");
+    EXPECT_EQ(s.len(), 21);  // counted while suspended
+    s += L"!";
+    EXPECT_TRUE(s == L"written by the caller!");
+    buffer = s.GetBuffer(10);
+    buffer[3] = 0;
+    s.ReleaseBuffer();
+    EXPECT_EQ(s.len(), 3);
+    EXPECT_TRUE(s == L"wri");
+    // A buffer filled to its capacity without a terminator is cut at the capacity.
+    COrxString full;
+    buffer = full.GetBuffer(16);
+    for (int k = 0; k < 16; ++k) {
+        buffer[k] = L'x';
+    }
+    full.ReleaseBuffer();
+    EXPECT_EQ(full.len(), 16);
+}
+
+TEST(COrxStringTest, AppendingIsSafeWhenTheTextIsTheStringItself) {
+    COrxString s(L"abc");
+    s += s;
+    EXPECT_TRUE(s == L"abcabc");
+    for (int k = 0; k < 5; ++k) {
+        s += s;  // grows through several reallocations
+    }
+    EXPECT_EQ(s.len(), 6 * 32);
+    EXPECT_EQ(s[-1], L'c');
+
+    COrxString t(L"0123456789abcdef");  // exactly at capacity: the next append moves it
+    t += static_cast<wchar_t const*>(t) + 10;
+    EXPECT_TRUE(t == L"0123456789abcdefabcdef");
+    t = static_cast<wchar_t const*>(t) + 16;  // assigning its own tail
+    EXPECT_TRUE(t == L"abcdef");
+    t.insertAt(3, static_cast<wchar_t const*>(t));
+    EXPECT_TRUE(t == L"abcabcdefdef");
+}
+
+TEST(COrxStringTest, ConcatenationOperators) {
+    COrxString s;
+    s += COrxString();
+    s += static_cast<wchar_t const*>(nullptr);
+    s += wchar_t(0);
+    EXPECT_TRUE(s.isNull());
+    s += L"";
+    EXPECT_FALSE(s.isNull());
+    s += L'a';
+    s += COrxString(L"bc");
+    EXPECT_TRUE(s == L"abc");
+    EXPECT_TRUE(s + L'd' == L"abcd");
+    EXPECT_TRUE(s + COrxString(L"de") == L"abcde");
+    EXPECT_TRUE(L"<" + s == L"<abc");
+    EXPECT_TRUE(s == L"abc");
+    EXPECT_TRUE((static_cast<wchar_t const*>(nullptr) + COrxString()).isNull());
+}
+
+TEST(COrxStringTest, InsertLeftRightMid) {
+    COrxString s(L"held");
+    s.insertAt(2, L"LLO WOR");
+    EXPECT_TRUE(s == L"heLLO WORld");
+    s.insertAt(11, L'!');
+    EXPECT_TRUE(s == L"heLLO WORld!");
+    s.insertAt(13, L"beyond");
+    EXPECT_TRUE(s == L"heLLO WORld!");
+    s.insertAt(0, static_cast<wchar_t const*>(nullptr));
+    EXPECT_TRUE(s == L"heLLO WORld!");
+
+    COrxString const t(L"abcdef");
+    EXPECT_TRUE(t.left(2) == L"ab");
+    EXPECT_TRUE(t.left(6) == L"abcdef");
+    EXPECT_TRUE(t.left(99) == L"abcdef");
+    EXPECT_TRUE(t.left(0) == L"");
+    EXPECT_TRUE(t.right(2) == L"ef");
+    EXPECT_TRUE(t.right(99) == L"abcdef");
+    EXPECT_TRUE(t.mid(2, 3) == L"cde");
+    EXPECT_TRUE(t.mid(4, 99) == L"ef");
+    EXPECT_TRUE(t.mid(6, 1) == L"");
+    EXPECT_FALSE(t.mid(6, 1).isNull());
+    EXPECT_TRUE(COrxString().left(3).isNull());
+    EXPECT_TRUE(COrxString().mid(0, 3).isNull());
+}
+
+TEST(COrxStringTest, FillReplaceAndTrim) {
+    COrxString n(L"42");
+    EXPECT_TRUE(n.lfill(5, L'0') == L"00042");
+    EXPECT_TRUE(n.lfill(3, L'0') == L"00042");
+    EXPECT_TRUE(n.rfill(7, L'.') == L"00042..");
+    EXPECT_TRUE(COrxString().rfill(2, L'-') == L"--");
+
+    COrxString r(L"a--b--c");
+    EXPECT_TRUE(r.replace(L"--", L"+") == L"a+b+c");
+    EXPECT_TRUE(r.replace(L"+", L"") == L"abc");
+    EXPECT_TRUE(r.replace(L"b", static_cast<wchar_t const*>(nullptr)) == L"ac");
+    EXPECT_TRUE(r.replace(L"", L"x") == L"ac");
+    EXPECT_TRUE(r.replace(L"zz", L"x") == L"ac");
+    COrxString overlap(L"aaaa");
+    EXPECT_TRUE(overlap.replace(L"aa", L"b") == L"bb");  // non-overlapping, left to right
+    COrxString grow(L"x.y.z");
+    EXPECT_TRUE(grow.replace(L'.', L'/') == L"x/y/z");
+    EXPECT_TRUE(grow.replace(L".", L"::") == L"x/y/z");
+    EXPECT_TRUE(grow.replace(L"/", L"::") == L"x::y::z");
+    COrxString cut(L"name=value");
+    EXPECT_TRUE(cut.replace(L'=', 0) == L"name");
+
+    COrxString t(L" \t\r\n text \n\v");
+    EXPECT_TRUE(COrxString(t).trimRight() == L" \t\r\n text \n\v");  // \v is not trimmed
+    EXPECT_TRUE(COrxString(t).trimLeft() == L"text \n\v");
+    EXPECT_TRUE(COrxString(L"\f x \r\n").trim() == L"\f x");
+    EXPECT_TRUE(COrxString(L" \t ").trim() == L"");
+    EXPECT_TRUE(COrxString().trim().isNull());
+}
+
+TEST(COrxStringTest, CaseMappingCoversMoreThanAscii) {
+    wchar_t const mixed[] = {L'a', L'B', 0xE9, 0xC4, 0xFF, 0x3B1, 0x430, 0xDF, L'1', 0};
+    wchar_t const upper[] = {L'A', L'B', 0xC9, 0xC4, 0x178, 0x391, 0x410, 0xDF, L'1', 0};
+    wchar_t const lower[] = {L'a', L'b', 0xE9, 0xE4, 0xFF, 0x3B1, 0x430, 0xDF, L'1', 0};
+    EXPECT_TRUE(COrxString(mixed).makeUpper() == upper);
+    EXPECT_TRUE(COrxString(mixed).makeLower() == lower);
+    EXPECT_TRUE(COrxString().makeUpper().isNull());
+}
+
+TEST(COrxStringTest, ReversalKeepsSurrogatePairsTogether) {
+    EXPECT_TRUE(COrxString(L"abc").reverse() == L"cba");
+    COrxString s(L"ab");
+    s.revert();
+    EXPECT_TRUE(s == L"ba");
+    EXPECT_TRUE(COrxString().reverse().isNull());
+    // U+1F600 between two letters: one character on both platforms.
+    COrxString face(L"a");
+    face += COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
+    face += L'b';
+    COrxString expected(L"b");
+    expected += COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
+    expected += L'a';
+    EXPECT_TRUE(face.reverse() == expected);
+}
+
+TEST(COrxStringTest, QuoteAndUnquote) {
+    EXPECT_TRUE(COrxString(L"a b").quote() == L"\"a b\"");
+    EXPECT_TRUE(COrxString().quote() == L"\"\"");
+    EXPECT_TRUE(COrxString(L"\"a b\"").unQuote() == L"a b");
+    EXPECT_TRUE(COrxString(L"\"\"").unQuote() == L"");
+    EXPECT_TRUE(COrxString(L"\"").unQuote() == L"\"");
+    EXPECT_TRUE(COrxString(L"\"a").unQuote() == L"\"a");
+    EXPECT_TRUE(COrxString(L"\"\"x\"\"").unQuote() == L"\"x\"");  // one pair only
+}
+
+TEST(COrxStringTest, FindGivesTheFirstIndexOrMinusOne) {
+    COrxString const s(L"abcabc");
+    EXPECT_EQ(s.find(L"ca"), 2);
+    EXPECT_EQ(s.find(L"abc"), 0);
+    EXPECT_EQ(s.find(L"x"), -1);
+    EXPECT_EQ(s.find(L""), 0);
+    EXPECT_EQ(s.find(static_cast<wchar_t const*>(nullptr)), -1);
+    EXPECT_EQ(s.find(L'c'), 2);
+    EXPECT_EQ(s.find(L'z'), -1);
+    EXPECT_EQ(s.find(wchar_t(0)), -1);
+    EXPECT_EQ(COrxString().find(L"a"), -1);
+    EXPECT_EQ(COrxString().find(L'a'), -1);
+}
+
+TEST(COrxStringTest, MatchWildcardsAndAlternatives) {
+    struct Case {
+        wchar_t const* text;
+        wchar_t const* pattern;
+        wchar_t delimiter;
+        bool matches;
+    };
+    Case const cases[] = {
+        {L"drawing.dwg", L"*.dwg", 0, true},
+        {L"drawing.dwg", L"*.dxf", 0, false},
+        {L"drawing.dwg", L"*.dxf;*.dwg", L';', true},
+        {L"drawing.dwg", L"draw?ng.*", 0, true},
+        {L"drawing.dwg", L"drawing.dwg", 0, true},
+        {L"drawing.dwg", L"drawing", 0, false},
+        {L"drawing.dwg", L"Drawing.dwg", 0, false},  // case-sensitive
+        {L"abc", L"*", 0, true},
+        {L"", L"*", 0, true},
+        {L"", L"", 0, true},
+        {L"", L"?", 0, false},
+        {L"abc", L"a*c", 0, true},
+        {L"abcbc", L"a*bc", 0, true},  // the second occurrence of the piece
+        {L"abcbd", L"a*bc", 0, false},
+        {L"axbyc", L"a*b?c", 0, true},
+        {L"abc", L"a**c", 0, true},
+        {L"abc", L"*?", 0, true},
+        {L"x", L"a,b,x", L',', true},
+        {L"x", L"a,,b", L',', false},
+        {L"", L"a,,b", L',', true},  // the empty alternative
+        // The recursive match splits the rest of the pattern at ',' whatever the delimiter:
+        // "*x*a,b" against "xb" tries "*a" and "b" after the x.
+        {L"xb", L"*x*a,b", L';', true},
+        {L"xb", L"x*a,b", 0, false},
+    };
+    for (Case const& c : cases) {
+        EXPECT_EQ(COrxString(c.text).match(c.pattern, c.delimiter), c.matches)
+            << "text \"" << COrxString(c.text).len() << "\" pattern index " << (&c - cases);
+    }
+    EXPECT_FALSE(COrxString().match(L"*", 0));
+    EXPECT_FALSE(COrxString(L"a").match(nullptr, 0));
+}
+
+TEST(COrxStringTest, MatchWithManyStarsFinishes) {
+    std::wstring text(60, L'a');
+    std::wstring pattern;
+    for (int k = 0; k < 12; ++k) {
+        pattern += L"*a";
+    }
+    EXPECT_TRUE(COrxString(text.c_str()).match((pattern + L"*").c_str(), 0));
+    EXPECT_FALSE(COrxString(text.c_str()).match((pattern + L"*b").c_str(), 0));
+}
+
+TEST(COrxStringTest, StringListsCompareAndSortByTheStringRules) {
+    COrxArrayTempl<COrxString> list;
+    list.append(COrxString(L"b")).append(COrxString()).append(COrxString(L"a"));
+    list.append(COrxString(L""));
+    list.sort();
+    EXPECT_TRUE(list[0].isNull());  // null and empty are equal in order: the sort is stable
+    EXPECT_TRUE(list[1] == L"");
+    EXPECT_TRUE(list[2] == L"a");
+    EXPECT_TRUE(list[3] == L"b");
+    EXPECT_EQ(list.indexOf(COrxString(L"")), 1);  // but equality tells them apart
+    EXPECT_EQ(list.indexOf(COrxString()), 0);
+    COrxArrayTempl<COrxString> const copy(list);
+    EXPECT_TRUE(copy == list);
+}

@@ -1,0 +1,63 @@
+#include "orx/services/timer.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+// Sleeps last at least this long; the checks below use only such lower bounds (and the
+// difference of two of them), never an upper bound, so a busy machine cannot fail them.
+constexpr double kNapSeconds = 0.02;
+// Timer resolution slack for comparisons of two readings.
+constexpr double kSlackSeconds = 1e-3;
+
+void nap(double seconds) {
+    std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
+}
+
+}  // namespace
+
+TEST(CTimerTest, StoppingTwiceReturnsTheSameSeconds) {
+    ORX::CTimer timer;
+    nap(kNapSeconds);
+    double const first = timer.stop();
+    nap(kNapSeconds);
+    EXPECT_EQ(timer.stop(), first);
+    EXPECT_EQ(static_cast<double>(timer), first);
+    EXPECT_GE(first, kNapSeconds - kSlackSeconds);
+}
+
+TEST(CTimerTest, ReadingDoesNotStop) {
+    ORX::CTimer timer;
+    nap(kNapSeconds);
+    double const early = timer;
+    nap(kNapSeconds);
+    double const later = timer;
+    EXPECT_GE(later - early, kNapSeconds - kSlackSeconds);
+    EXPECT_GE(timer.stop(), later);
+}
+
+TEST(CTimerTest, ResumingAddsOnlyTheRunningTime) {
+    ORX::CTimer wall;
+    ORX::CTimer timer;
+    nap(kNapSeconds);
+    double const before = timer.stop();
+    nap(2 * kNapSeconds);  // stopped: not counted
+    timer.start(false);
+    nap(kNapSeconds);
+    double const after = timer.stop();
+    double const wallSeconds = wall.stop();
+
+    EXPECT_GE(after - before, kNapSeconds - kSlackSeconds);
+    EXPECT_LE(after, wallSeconds - 2 * kNapSeconds + kSlackSeconds);
+}
+
+TEST(CTimerTest, StartWithResetClearsTheAccumulatedTime) {
+    ORX::CTimer timer;
+    nap(kNapSeconds);
+    double const first = timer.stop();
+    timer.start(true);
+    EXPECT_LT(timer.stop(), first);
+}

@@ -1,0 +1,142 @@
+// Included before the library's headers on purpose: the Windows build checks here that
+// <windows.h> first and the library's stand-ins second compile together
+// (platform_types_test.cpp checks the other order).
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+#include "orx/services/version_info.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "orx/services/version.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Any address inside the library stands for its module on both platforms.
+HINSTANCE libraryModule() {
+    return reinterpret_cast<HINSTANCE>(reinterpret_cast<void*>(&ORX::version));
+}
+
+// The library file, found with the platform's own loader functions.
+std::wstring libraryFile() {
+#ifdef _WIN32
+    HMODULE module = nullptr;
+    GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<LPCWSTR>(&ORX::version), &module);
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(module, path, MAX_PATH);
+    return path;
+#else
+    Dl_info info{};
+    dladdr(reinterpret_cast<void*>(&ORX::version), &info);
+    return fs::path(info.dli_fname).wstring();
+#endif
+}
+
+void expectLibraryStrings(ORX::CVersionInfo const& info) {
+    EXPECT_EQ(std::wstring(info.GetCompanyName()), L"Kelvara");
+    EXPECT_EQ(std::wstring(info.GetProductName()), L"Orx");
+    EXPECT_EQ(std::wstring(info.GetProductVersion()), L"2017.0.23.64");
+    EXPECT_EQ(std::wstring(info.GetCopyright()).substr(0, 6), L"\u00a9 2017");
+    EXPECT_EQ(std::wstring(info.GetTrademark()), L"");  // the library has none
+}
+
+void expectNoData(ORX::CVersionInfo const& info, char const* what) {
+    std::wstring const none = ORX::CVersionInfo::NoVerDataString();
+    EXPECT_EQ(info.GetCompanyName(), none) << what;
+    EXPECT_EQ(info.GetCopyright(), none) << what;
+    EXPECT_EQ(info.GetProductName(), none) << what;
+    EXPECT_EQ(info.GetTrademark(), none) << what;
+    EXPECT_EQ(info.GetProductVersion(), none) << what;
+}
+
+fs::path writeFile(char const* name, std::string const& contents) {
+    fs::path const path = fs::temp_directory_path() / name;
+    std::ofstream(path, std::ios::binary) << contents;
+    return path;
+}
+
+std::string firstBytesOf(std::wstring const& file, std::size_t count) {
+    std::ifstream in(fs::path(file), std::ios::binary);
+    std::string bytes(count, '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(count));
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    return bytes;
+}
+
+}  // namespace
+
+TEST(CVersionInfoTest, ReadsTheLibrarysStringsBackFromItsFile) {
+    expectLibraryStrings(ORX::CVersionInfo(libraryModule()));
+    std::wstring const file = libraryFile();
+    ASSERT_FALSE(file.empty());
+    expectLibraryStrings(ORX::CVersionInfo(file.c_str()));
+}
+
+TEST(CVersionInfoTest, CopiesKeepTheirStrings) {
+    auto* const original = new ORX::CVersionInfo(libraryModule());
+    ORX::CVersionInfo const copy(*original);
+    ORX::CVersionInfo assigned(L"no such file");
+    assigned = *original;
+    delete original;
+    expectLibraryStrings(copy);
+    expectLibraryStrings(assigned);
+    assigned = ORX::CVersionInfo(nullptr);
+    expectNoData(assigned, "assigned from the test program");
+}
+
+TEST(CVersionInfoTest, FilesWithoutVersionDataGiveTheNoDataText) {
+    EXPECT_EQ(std::wstring(ORX::CVersionInfo::NoVerDataString()), L"<no version info found>");
+    expectNoData(ORX::CVersionInfo(), "the test program");
+    expectNoData(ORX::CVersionInfo(nullptr), "null module");
+    expectNoData(ORX::CVersionInfo(static_cast<wchar_t const*>(nullptr)), "null file name");
+    expectNoData(ORX::CVersionInfo(L""), "empty file name");
+    expectNoData(ORX::CVersionInfo(L"no such file.dll"), "missing file");
+
+    fs::path const empty = writeFile("orx_version_empty.bin", "");
+    fs::path const junk = writeFile("orx_version_junk.bin", std::string(4096, '\x7f'));
+    fs::path const truncated =
+        writeFile("orx_version_truncated.bin", firstBytesOf(libraryFile(), 1024));
+    expectNoData(ORX::CVersionInfo(empty.wstring().c_str()), "empty file");
+    expectNoData(ORX::CVersionInfo(junk.wstring().c_str()), "junk file");
+    expectNoData(ORX::CVersionInfo(truncated.wstring().c_str()), "truncated library");
+    for (fs::path const& path : {empty, junk, truncated}) {
+        fs::remove(path);
+    }
+}
+
+TEST(CVersionInfoTest, VersionCompareIsNumericOverTheShorterText) {
+    struct Case {
+        wchar_t const* a;
+        wchar_t const* b;
+        int expected;
+    } const cases[] = {
+        {L"2017.0", L"2017.1", -1},
+        {L"2017.1", L"2017.0", 1},
+        {L"10.0", L"9.9", 1},  // numeric, not textual
+        {L"2", L"10", -1},
+        {L"1.2", L"1.2.5", 0},  // only the shorter text's parts count
+        {L"1.2.5", L"1.2", 0},
+        {L"2017.0.23.64", L"2017.0.23.64", 0},
+        {L"1.x", L"1.0", 0},  // a part without digits is 0
+        {L"1..3", L"1.0.3", 0},
+        {L"", L"0", 0},
+        {nullptr, L"1", -1},  // null reads as ""
+        {L"99999999999999999999", L"1", 1},
+    };
+    for (Case const& c : cases) {
+        EXPECT_EQ(ORX::CVersionInfo::versionCompare(c.a, c.b), c.expected)
+            << (c.a ? c.a : L"(null)") << " vs " << c.b;
+    }
+}
