@@ -12,6 +12,7 @@
 
 #include "orx/foundation/platform.h"
 #include "orx/polyline/vertex_array.h"
+#include "orx/polyline/vertex_array_ex.h"
 
 namespace ORX {
 
@@ -35,6 +36,11 @@ constexpr double kRandomDirectionScale = 0.00019175345033660654;
 // must run the same way round (orient them first).
 ORX_API COrxVertexArray g_vl_bool(COrxVertexArray a, COrxVertexArray b,
                                   COrxVertexArray::boolOper op);
+
+// The same on extended polylines. The result is a default extended polyline: the attributes
+// of neither operand are carried into it (deliberately; callers set them afterwards).
+ORX_API COrxVertexArrayEx g_vl_bool(COrxVertexArrayEx a, COrxVertexArrayEx b,
+                                    COrxVertexArray::boolOper op);
 
 // Cuts the segments of a (mode bit 1) and of b (mode bit 2) at the points where the two
 // meet, including a vertex of one touching the inside of a segment of the other, until no

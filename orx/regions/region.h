@@ -17,6 +17,7 @@
 #include "orx/foundation/array_templ.h"
 #include "orx/foundation/platform.h"
 #include "orx/polyline/vertex_array.h"
+#include "orx/polyline/vertex_array_ex.h"
 
 namespace ORX {
 
@@ -64,6 +65,22 @@ ORX_API COrxArrayTempl<COrxVertexArray> g_vl_vll(COrxVertexArray const& vl);
 // loop that contains it, and is dropped when none does. Holes keep their index order.
 ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> g_vll_region(
     COrxArrayTempl<COrxVertexArray> const& loops);
+
+// The extended forms run the same operations on the plain polylines; their results carry
+// default attributes (attribute 0, empty text), as g_vl_bool's extended form does.
+ORX_API int g_vll_pt_inside(COrxArrayTempl<COrxVertexArrayEx> const& region, COrxPoint3d const& p);
+ORX_API bool g_region_union(COrxArrayTempl<COrxVertexArrayEx> a, COrxArrayTempl<COrxVertexArrayEx> b,
+                            COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);
+ORX_API bool g_region_sect(COrxArrayTempl<COrxVertexArrayEx> a, COrxArrayTempl<COrxVertexArrayEx> b,
+                           COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);
+ORX_API bool g_region_diff(COrxArrayTempl<COrxVertexArrayEx> a, COrxArrayTempl<COrxVertexArrayEx> b,
+                           COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);
+// Region a minus every region of `subs` in turn (reglDiff with a as the only region to cut):
+// out is replaced by what remains; false when nothing does.
+ORX_API bool g_region_diff(COrxArrayTempl<COrxVertexArrayEx> a,
+                           COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>> subs,
+                           COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);
+ORX_API COrxArrayTempl<COrxVertexArrayEx> g_vl_vll(COrxVertexArrayEx const& vl);
 
 }  // namespace ORX
 

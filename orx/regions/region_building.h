@@ -5,6 +5,7 @@
 #include "orx/foundation/array_templ.h"
 #include "orx/foundation/platform.h"
 #include "orx/polyline/vertex_array.h"
+#include "orx/polyline/vertex_array_ex.h"
 
 namespace ORX {
 
@@ -37,6 +38,10 @@ ORX_API bool g_vl_vl_inside(COrxVertexArray const& i, COrxVertexArray const& j);
 // (contradictory nesting from degenerate loops), the result is empty.
 ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> g_vll_regions(
     COrxArrayTempl<COrxVertexArray> const& loops, unsigned long flags);
+
+// The same for extended loops; each loop keeps its attributes.
+ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>> g_vll_regions(
+    COrxArrayTempl<COrxVertexArrayEx> const& loops, unsigned long flags);
 
 // The intended preparation before g_vll_regions: keeps only the non-empty closed loops and
 // orients each counter-clockwise against refNormal(). Returns the list.

@@ -11,5 +11,6 @@
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/region.h"
 #include "orx/regions/region_building.h"
+#include "orx/regions/region_lists.h"
 
 #endif  // ORX_REGIONS_REGIONS_H
