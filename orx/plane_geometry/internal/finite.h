@@ -1,0 +1,38 @@
+// Guards of the plane-geometry functions against NaN, infinite and overflowing values: the
+// formulas stay as written for ordinary input, and these decide what bad input gives.
+#ifndef ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H
+#define ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H
+
+#include <cmath>
+
+#include "orx/geom/functions.h"
+#include "orx/geom/point.h"
+
+namespace ORX {
+namespace internal {
+
+// Every value is a finite number.
+template <class... Values>
+bool allFinite(Values... values) {
+    return (std::isfinite(values) && ...);
+}
+
+// Every point has finite coordinates.
+template <class... Points>
+bool allValid(Points const&... points) {
+    return (points.isValid() && ...);
+}
+
+// The library's "no answer" for a formula that divided by zero or overflowed.
+inline double finiteOrNan(double value) {
+    return std::isfinite(value) ? value : ORX::nan();
+}
+
+inline COrxPoint3d nanPoint() {
+    return COrxPoint3d(ORX::nan(), ORX::nan(), ORX::nan());
+}
+
+}  // namespace internal
+}  // namespace ORX
+
+#endif  // ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H

@@ -1,0 +1,121 @@
+#include "orx/plane_geometry/lines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "orx/geom/functions.h"
+#include "orx/geom/vector.h"
+#include "orx/plane_geometry/internal/finite.h"
+
+namespace ORX {
+
+namespace {
+
+// The widened bounding boxes of the segments a-b and c-d are apart in x or in y.
+bool boxesApart(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& c,
+                COrxPoint3d const& d, double t) {
+    bool const apartX = std::max(a.x, b.x) + t < std::min(c.x, d.x) - t ||
+                        std::max(c.x, d.x) + t < std::min(a.x, b.x) - t;
+    bool const apartY = std::max(a.y, b.y) + t < std::min(c.y, d.y) - t ||
+                        std::max(c.y, d.y) + t < std::min(a.y, b.y) - t;
+    return apartX || apartY;
+}
+
+// The point of pts whose distance from p is best by `better`, NaN distances ignored; -1 when
+// there is none.
+template <class Better>
+int bestByDistance(COrxPoint3d const& p, COrxPoint3dArray const& pts, Better better) {
+    int best = -1;
+    double bestDistance = 0.0;
+    for (int k = 0; k < pts.len(); ++k) {
+        double const d = p.distanceTo(pts[k]);
+        if (!std::isnan(d) && (best < 0 || better(d, bestDistance))) {
+            best = k;
+            bestDistance = d;
+        }
+    }
+    return best;
+}
+
+}  // namespace
+
+COrxPoint3d g_lotp(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
+    if (b == a) {
+        return a;
+    }
+    COrxVector3d const u = (b - a).normalize();
+    return a + u * sprod(p - a, u);
+}
+
+bool g_line_pt(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
+    if (!internal::allValid(a, b, p)) {
+        return false;
+    }
+    if (p == a || p == b) {
+        return true;
+    }
+    if (a == b) {
+        return false;
+    }
+    COrxPoint3d const f = g_lotp(a, b, p);
+    if (p.distanceTo(f) > COrxPoint3d::tol) {
+        return false;
+    }
+    return (f - a).normalize() == (b - f).normalize();
+}
+
+bool inters(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p3,
+            COrxPoint3d const& p4, bool bounded, COrxPoint3d& out) {
+    if (!internal::allValid(p1, p2, p3, p4)) {
+        return false;
+    }
+    double const t = COrxPoint3d::tol;
+    if (bounded && boxesApart(p1, p2, p3, p4, t)) {
+        return false;
+    }
+    COrxPoint3d const* first[2] = {&p1, &p2};
+    COrxPoint3d const* second[2] = {&p3, &p4};
+    if (std::fabs(p2.x - p1.x) < t) {
+        if (std::fabs(p4.x - p3.x) < t || std::fabs(p2.y - p1.y) < t) {
+            return false;
+        }
+        std::swap(first[0], second[0]);
+        std::swap(first[1], second[1]);
+    }
+    COrxPoint3d const& a = *first[0];
+    COrxPoint3d const& b = *first[1];
+    COrxPoint3d const& c = *second[0];
+    COrxPoint3d const& d = *second[1];
+    double const m1 = (b.y - a.y) / (b.x - a.x);
+    double const b1 = a.y - m1 * a.x;
+    double const dx2 = d.x - c.x;
+    double x;
+    if (std::fabs(dx2) < kVerticalDx) {
+        x = d.x;
+    } else {
+        double const m2 = (d.y - c.y) / dx2;
+        if (std::fabs(m1 - m2) < kParallelSlope) {
+            return false;
+        }
+        x = (c.y - m2 * c.x - b1) / (m1 - m2);
+    }
+    COrxPoint3d const hit(x, m1 * x + b1, a.z);
+    if (!hit.isValid() || (bounded && !(g_line_pt(p1, p2, hit) && g_line_pt(p3, p4, hit)))) {
+        return false;
+    }
+    out = hit;
+    return true;
+}
+
+COrxPoint3d g_near_p1(COrxPoint3d const& p, COrxPoint3dArray const& pts) {
+    int const k = bestByDistance(p, pts, [](double d, double best) { return d < best; });
+    return k < 0 ? p : pts[k];
+}
+
+COrxPoint3d g_far_p1(COrxPoint3d const& p, COrxPoint3dArray const& pts) {
+    int const k = bestByDistance(p, pts, [](double d, double best) { return d > best; });
+    return k < 0 ? p : pts[k];
+}
+
+}  // namespace ORX

@@ -1,0 +1,88 @@
+// Bad input to the plane-geometry functions: NaN gives NaN or false, infinite and huge values
+// terminate (the normalising loops included) and never report points that are not finite.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "orx/geom/functions.h"
+#include "orx/plane_geometry/plane_geometry.h"
+
+namespace {
+
+double const inf = std::numeric_limits<double>::infinity();
+double const kBad[] = {ORX::nan(), inf, -inf, 1e300, -1e300, 1e308};
+COrxPoint3d const O(0, 0, 0);
+COrxPoint3d const E(1, 0, 0);
+
+bool allValid(COrxPoint3dArray const& pts) {
+    for (int k = 0; k < pts.len(); ++k) {
+        if (!pts[k].isValid()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+TEST(PlaneGeometryRobustnessTest, NanAnglesGiveNan) {
+    double const n = ORX::nan();
+    for (double v : {ORX::g_ang(n),
+                     ORX::g_signed_ang(n),
+                     ORX::g_dir_nrm(n),
+                     ORX::g_dw(n, 1),
+                     ORX::g_dw1(n, 1),
+                     ORX::g_qw(n),
+                     ORX::g_rnd_quad(n),
+                     ORX::g_w_halb(n, 1),
+                     ORX::g_w_mid(1, n),
+                     ORX::g_w_3eck(n, 1, 1),
+                     ORX::g_arc_bulg(n, 1),
+                     ORX::g_sec_ang(n, 1),
+                     ORX::g_sec_len(1, n),
+                     ORX::g_sec_len2(n, 1),
+                     ORX::g_tang_radius(n, 1),
+                     ORX::g_tang_cen(1, 1, 1, n),
+                     ORX::g_korb_3m(n, 1),
+                     ORX::g_rkorb(n, 1, 1),
+                     ORX::g_rkorb2(1, n, 1),
+                     ORX::g_fries_w(n, 1, 1),
+                     ORX::g_fries_r(1, 1, n),
+                     ORX::g_achs_dist(1, 1, n, 1, 1),
+                     ORX::g_elps_p(1, 1, n),
+                     ORX::g_elps_w(1, 1, n),
+                     ORX::g_bulg_len(O, E, n),
+                     ORX::g_dist_w1(O, E, n),
+                     ORX::g_arcrad_bulg(O, COrxPoint3d(n, 0, 0), 1.0)}) {
+        EXPECT_TRUE(std::isnan(v));
+    }
+}
+
+TEST(PlaneGeometryRobustnessTest, BadNumbersTerminateWithoutFalsePoints) {
+    for (double bad : kBad) {
+        // Loops and recursion end.
+        ORX::g_ang(bad);
+        ORX::g_signed_ang(bad);
+        ORX::g_dir_nrm(bad);
+        ORX::g_rnd_quad(bad);
+        ORX::g_sextant(bad);
+        // What is reported as found is finite.
+        COrxPoint3d const P(bad, 0, 0), N(0, 1, 0);
+        COrxPoint3dArray pts;
+        auto expectFinite = [&](bool found) { EXPECT_TRUE(!found || allValid(pts)) << bad; };
+        expectFinite(ORX::g_cci(pts, O, bad, E, 1.0));
+        expectFinite(ORX::g_cci(pts, O, 1.0, P, 1.0));
+        expectFinite(ORX::g_cli0(pts, O, 1.0, P, N));
+        expectFinite(ORX::g_cli0(pts, O, bad, E, N));
+        expectFinite(
+            ORX::g_ali(pts, O, 1.0, 0.0, bad, COrxPoint3d(-2, 0, 0), COrxPoint3d(2, 0, 0)));
+        expectFinite(ORX::g_aai(pts, O, 1.0, bad, 1.0, E, 1.0, 0.0, bad));
+        expectFinite(ORX::g_nm_pkt_tan(pts, P, O, 1.0));
+        COrxPoint3d out;
+        EXPECT_TRUE(!ORX::inters(O, P, N, E, false, out) || out.isValid()) << bad;
+        EXPECT_TRUE(!ORX::g_arc3p_cen(O, P, N, out) || out.isValid()) << bad;
+        double bulge = 0;
+        EXPECT_TRUE(!ORX::g_arcrad_bulg(bulge, O, P, 1.0) || std::isfinite(bulge)) << bad;
+    }
+}
