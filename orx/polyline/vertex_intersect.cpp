@@ -20,8 +20,9 @@ COrxPoint3dArray COrxVertex::intersectWith(COrxVertex const& other, unsigned int
     return pts;
 }
 
-// Dispatch by segment kind: line-line, arc-line (the arc always first) and arc-arc, on the
-// segments themselves or, extended, on infinite lines and full circles.
+// Dispatch by segment kind: line-line, arc-line (the arc always first) and arc-arc (the
+// smaller circle first), on the segments themselves or, extended, on infinite lines and
+// full circles.
 void COrxVertex::findIntersections(COrxPoint3dArray& pts, COrxVertex const& other,
                                    bool extended) const {
     if (isStraight() && other.isStraight()) {
@@ -49,6 +50,13 @@ void COrxVertex::findIntersections(COrxPoint3dArray& pts, COrxVertex const& othe
     COrxPoint3d oc;
     double orr = 0.0, b0 = 0.0, b1 = 0.0;
     other.toArc(oc, orr, b0, b1);
+    if (orr < r) {
+        // The circle functions compute the points from the first circle's centre; from the
+        // far centre of a nearly straight arc (a huge radius) they would be off by more than
+        // the tolerance. The smaller circle goes first, whichever segment asked.
+        other.findIntersections(pts, *this, extended);
+        return;
+    }
     if (extended) {
         ORX::g_cci(pts, c, r, oc, orr);
     } else {
