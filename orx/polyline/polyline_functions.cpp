@@ -77,29 +77,26 @@ COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list
 }
 
 double g_vl_area(COrxVertexArray const& vl) {
-    if (vl.isEmpty()) {
-        return 0.0;
-    }
-    // Shoelace over the corner sequence start 0, end 0, start 1, ... taken cyclically, so
-    // that gaps count as straight segments (and separate loops of one polyline add up);
-    // relative to the first point, so that large coordinates do not cancel.
-    COrxPoint3d const origin = vl[0].startPoint();
-    double twiceChords = 0.0;
-    double segments = 0.0;
+    // The polyline falls into runs of segments that meet; each run is closed by a straight
+    // segment from its end back to its start. Shoelace relative to the run's start, so that
+    // large coordinates do not cancel, plus the circular segment of every arc.
+    double total = 0.0;
+    COrxPoint3d runStart;
     for (int k = 0; k < vl.len(); ++k) {
         COrxVertex const& v = vl[k];
-        COrxVector3d const start = v.startPoint() - origin;
-        COrxVector3d const end = v.endPoint() - origin;
-        COrxVector3d const next = vl[(k + 1) % vl.len()].startPoint() - origin;
-        twiceChords += start.x * end.y - end.x * start.y;
-        twiceChords += end.x * next.y - next.x * end.y;
+        if (k == 0 || v.startPoint() != vl[k - 1].endPoint()) {
+            runStart = v.startPoint();
+        }
+        COrxVector3d const a = v.startPoint() - runStart;
+        COrxVector3d const b = v.endPoint() - runStart;
+        total += (a.x * b.y - b.x * a.y) / 2;
         if (!v.isStraight()) {
             double const theta = 4.0 * std::atan(v.bulge());
             double const r = v.radius();
-            segments += r * r / 2 * (theta - std::sin(theta));
+            total += r * r / 2 * (theta - std::sin(theta));
         }
     }
-    return twiceChords / 2 + segments;
+    return total;
 }
 
 namespace {
@@ -120,7 +117,8 @@ COrxVertexArray vlPlaneProje(COrxPlane const& pl, COrxVertexArray const& vl,
     for (int k = 0; k < source.len(); ++k) {
         COrxVertex const& v = source[k];
         COrxPoint3d start, end;
-        if (projectPoint(pl, v.startPoint(), dir, start) && projectPoint(pl, v.endPoint(), dir, end)) {
+        if (projectPoint(pl, v.startPoint(), dir, start) &&
+            projectPoint(pl, v.endPoint(), dir, end)) {
             projected.append(COrxVertex(start, end, v.bulge()));
         }
     }

@@ -27,9 +27,10 @@ ORX_API COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArra
 
 // Signed area enclosed by the polyline, exact for arcs: the shoelace sum over the chords
 // plus the circular segment of every arc, r^2 / 2 * (theta - sin theta) with the arc's
-// signed included angle theta. Positive for a counter-clockwise outline seen from +Z. An
-// open polyline counts as closed by a straight segment from its end back to its start. 0
-// when empty.
+// signed included angle theta. Positive for a counter-clockwise outline seen from +Z. The
+// polyline is taken as its runs of segments that meet (the loops of a boolean result), each
+// closed by a straight segment from its end back to its start; their areas add up. 0 when
+// empty.
 ORX_API double g_vl_area(COrxVertexArray const& vl);
 
 // The polyline projected along dir onto the plane, point by point as plPlaneProje does. When

@@ -1,4 +1,5 @@
-// The exported array instantiations for polylines: lists of polylines and lists of regions, plain and extended.
+// The exported array instantiations for polylines: lists of polylines and lists of regions, plain
+// and extended.
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_array_ex.h"

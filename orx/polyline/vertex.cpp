@@ -39,8 +39,7 @@ COrxVertex& COrxVertex::operator=(COrxVertex const& other) {
 COrxVertex::COrxVertex(COrxPoint3d const& start, COrxPoint3d const& end, double bulge)
     : m_start(start), m_end(end), m_bulge(bulge), m_tag(0) {}
 
-COrxVertex::COrxVertex(COrxPoint3d const& start, COrxPoint3d const& through,
-                       COrxPoint3d const& end)
+COrxVertex::COrxVertex(COrxPoint3d const& start, COrxPoint3d const& through, COrxPoint3d const& end)
     : m_start(start), m_end(end), m_bulge(0.0), m_tag(0) {
     double bulge = 0.0;
     if (ORX::g_arc3p_bulg(start, through, end, bulge)) {
@@ -48,8 +47,7 @@ COrxVertex::COrxVertex(COrxPoint3d const& start, COrxPoint3d const& through,
     }
 }
 
-COrxVertex::COrxVertex(COrxPoint3d const& centre, double radius, double startAngle,
-                       double endAngle)
+COrxVertex::COrxVertex(COrxPoint3d const& centre, double radius, double startAngle, double endAngle)
     : m_start(ORX::polar(centre, startAngle, radius)),
       m_end(ORX::polar(centre, endAngle, radius)),
       m_bulge(ORX::g_arc_bulg(startAngle, endAngle)),
@@ -73,8 +71,8 @@ bool COrxVertex::operator==(COrxVertex const& other) const {
     if (this == &other) {
         return true;
     }
-    return std::fabs(m_bulge - other.m_bulge) < ORX::kBulgeEqualTol &&
-           m_start == other.m_start && m_end == other.m_end;
+    return std::fabs(m_bulge - other.m_bulge) < ORX::kBulgeEqualTol && m_start == other.m_start &&
+           m_end == other.m_end;
 }
 
 bool COrxVertex::radius(double& r) const {
@@ -112,8 +110,7 @@ COrxPoint3d COrxVertex::center() const {
     return c;
 }
 
-bool COrxVertex::toArc(COrxPoint3d& centre, double& r, double& startAngle,
-                       double& endAngle) const {
+bool COrxVertex::toArc(COrxPoint3d& centre, double& r, double& startAngle, double& endAngle) const {
     if (!center(centre)) {
         return false;
     }

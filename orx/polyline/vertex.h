@@ -29,10 +29,10 @@ class ORX_API COrxVertex : public COrxObj {
 public:
     // Filter flags of intersectWith, tested in this order; a point is dropped on the first hit.
     enum IntersectFlags : unsigned int {
-        kSkipTangent = 0x1,      // the two segments touch tangentially at the point
-        kSkipOwnEnds = 0x2,      // the point is this segment's start or end point
-        kSkipOtherEnds = 0x4,    // the point is the other segment's start or end point
-        kExtended = 0x100,       // infinite lines and full circles instead of the segments
+        kSkipTangent = 0x1,    // the two segments touch tangentially at the point
+        kSkipOwnEnds = 0x2,    // the point is this segment's start or end point
+        kSkipOtherEnds = 0x4,  // the point is the other segment's start or end point
+        kExtended = 0x100,     // infinite lines and full circles instead of the segments
     };
 
     // Both points at the origin, bulge 0, tag 0.

@@ -20,7 +20,9 @@ void swapBytes(COrxVertex& a, COrxVertex& b) {
 
 COrxVertexArray::COrxVertexArray() : m_normal(COrxVector3d::kZAxis), m_vertices(nullptr) {}
 
-COrxVertexArray::COrxVertexArray(COrxVertex const& v) : COrxVertexArray() { append(v); }
+COrxVertexArray::COrxVertexArray(COrxVertex const& v) : COrxVertexArray() {
+    append(v);
+}
 
 COrxVertexArray::COrxVertexArray(COrxVertexArray const& other) : COrxVertexArray() {
     *this = other;
@@ -40,7 +42,9 @@ COrxVertexArray& COrxVertexArray::operator=(COrxVertexArray const& other) {
     return *this;
 }
 
-COrxVertexArray::~COrxVertexArray() { delete[] m_vertices; }
+COrxVertexArray::~COrxVertexArray() {
+    delete[] m_vertices;
+}
 
 bool COrxVertexArray::operator==(COrxVertexArray const& other) const {
     if (this == &other) {

@@ -93,7 +93,8 @@ COrxVertexArray& COrxVertexArray::close(bool closeIt) {
     rebuilt.m_normal = m_normal;
     for (int k = 0; k < len(); ++k) {
         if (k > 0 && m_vertices[k].startPoint() != m_vertices[k - 1].endPoint()) {
-            rebuilt.append(COrxVertex(m_vertices[k - 1].endPoint(), m_vertices[k].startPoint(), 0.0));
+            rebuilt.append(
+                COrxVertex(m_vertices[k - 1].endPoint(), m_vertices[k].startPoint(), 0.0));
         }
         rebuilt.append(m_vertices[k]);
     }

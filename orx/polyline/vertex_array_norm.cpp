@@ -4,14 +4,18 @@
 
 namespace {
 
-bool collapsed(COrxVertex const& v) { return v.startPoint() == v.endPoint(); }
+bool collapsed(COrxVertex const& v) {
+    return v.startPoint() == v.endPoint();
+}
 
-// c and next continue one another on one line or one circle. Arcs of one circle are not
-// merged when together they would close the whole circle: a full circle cannot be written
-// as one bulge, and merging would erase it. (A straight run that goes back on itself still
-// merges and collapses.)
+// c and next continue one another: next starts where c ends, on the same line or circle.
+// Segments that do not meet are never merged, so the separate loops of one polyline (as the
+// boolean operations return them) stay apart. Arcs of one circle are not merged when
+// together they would close the whole circle: a full circle cannot be written as one bulge,
+// and merging would erase it. (A straight run that goes back on itself still merges and
+// collapses.)
 bool mergeable(COrxVertex const& c, COrxVertex const& next) {
-    if (!c.coLinear(next)) {
+    if (c.endPoint() != next.startPoint() || !c.coLinear(next)) {
         return false;
     }
     return c.isStraight() || next.endPoint() != c.startPoint();

@@ -30,8 +30,7 @@ COrxVertexArray& COrxVertexArray::offset(double d, bool bridgeGaps) {
     return offset(distances, bridgeGaps);
 }
 
-COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances,
-                                         bool bridgeGaps) {
+COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances, bool bridgeGaps) {
     if (isEmpty() || distances.isEmpty()) {
         return *this;
     }
@@ -91,7 +90,8 @@ void COrxVertexArray::closeGaps(bool closed, bool bridgeGaps) {
         }
         ORX::g_vx_trim(v, next);
         if (bridgeGaps && v.endPoint() != next.startPoint()) {
-            insertAt(static_cast<unsigned int>(k + 1), COrxVertex(v.endPoint(), next.startPoint(), 0.0));
+            insertAt(static_cast<unsigned int>(k + 1),
+                     COrxVertex(v.endPoint(), next.startPoint(), 0.0));
         }
     }
 }

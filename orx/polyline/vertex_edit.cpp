@@ -3,6 +3,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
+#include "orx/geom/matrix_functions.h"
 #include "orx/geom/plane.h"
 #include "orx/plane_geometry/plane_geometry.h"
 #include "orx/polyline/vertex.h"
@@ -10,7 +11,9 @@
 namespace {
 
 // Negation that keeps a straight segment's bulge exactly +0.0.
-double negatedBulge(double bulge) { return bulge == 0.0 ? 0.0 : -bulge; }
+double negatedBulge(double bulge) {
+    return bulge == 0.0 ? 0.0 : -bulge;
+}
 
 // The bulge of the arc about a fixed circle from angle a0 to angle a1, turning the way
 // `sense` (the old bulge) turned.

@@ -27,9 +27,13 @@ double vx_end_angle(COrxVertex const& v) {
     return g_ang(angle(v.endPoint(), v.startPoint()) + 4.0 * std::atan(v.bulge()) * 0.5);
 }
 
-COrxVector3d vx_start_dir(COrxVertex const& v) { return polar(vx_start_angle(v), 1.0); }
+COrxVector3d vx_start_dir(COrxVertex const& v) {
+    return polar(vx_start_angle(v), 1.0);
+}
 
-COrxVector3d vx_end_dir(COrxVertex const& v) { return polar(vx_end_angle(v), 1.0); }
+COrxVector3d vx_end_dir(COrxVertex const& v) {
+    return polar(vx_end_angle(v), 1.0);
+}
 
 int g_vx_split_n(COrxVertex const& v, double tol) {
     if (v.isStraight()) {

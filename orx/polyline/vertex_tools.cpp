@@ -74,7 +74,8 @@ bool g_vx_colinear(COrxVertex const& v1, COrxVertex const& v2, double tol) {
     if ((v1.bulge() > 0.0) != (v2.bulge() > 0.0)) {
         return false;
     }
-    return v1.center().distanceTo(v2.center()) <= tol && std::fabs(v1.radius() - v2.radius()) <= tol;
+    return v1.center().distanceTo(v2.center()) <= tol &&
+           std::fabs(v1.radius() - v2.radius()) <= tol;
 }
 
 double g_vx_lotd(COrxVertex const& v, COrxPoint3d const& p) {
@@ -143,7 +144,8 @@ bool g_vx_tangp(COrxVertex const& v, double direction, COrxPoint3dArray& pts) {
     } else {
         COrxPoint3d const c = v.center();
         double const r = v.radius();
-        candidates.append(polar(c, direction - kHalfPi, r)).append(polar(c, direction + kHalfPi, r));
+        candidates.append(polar(c, direction - kHalfPi, r))
+            .append(polar(c, direction + kHalfPi, r));
     }
     return keepOnSegment(v, candidates, pts);
 }

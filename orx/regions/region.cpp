@@ -45,8 +45,7 @@ int segmentCount(Region const& region) {
 
 bool disjoint(Region const& a, Region const& b) {
     COrxPoint3dArray pts;
-    return !a[0].intersectWith(pts, b[0], 0) &&
-           !g_vl_pt_inside(a[0], b[0][0].startPoint(), true) &&
+    return !a[0].intersectWith(pts, b[0], 0) && !g_vl_pt_inside(a[0], b[0][0].startPoint(), true) &&
            !g_vl_pt_inside(b[0], a[0][0].startPoint(), true);
 }
 
@@ -194,9 +193,13 @@ bool strictlyInside(COrxVertexArray const& loop, COrxPoint3d const& p) {
 
 }  // namespace
 
-COrxVector3d const& refNormal() { return referenceNormal(); }
+COrxVector3d const& refNormal() {
+    return referenceNormal();
+}
 
-void setRefNormal(COrxVector3d const& normal) { referenceNormal() = normal; }
+void setRefNormal(COrxVector3d const& normal) {
+    referenceNormal() = normal;
+}
 
 int g_vll_pt_inside(Region const& region, COrxPoint3d const& p) {
     if (region.isEmpty()) {

@@ -69,7 +69,8 @@ ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> g_vll_region(
 // The extended forms run the same operations on the plain polylines; their results carry
 // default attributes (attribute 0, empty text), as g_vl_bool's extended form does.
 ORX_API int g_vll_pt_inside(COrxArrayTempl<COrxVertexArrayEx> const& region, COrxPoint3d const& p);
-ORX_API bool g_region_union(COrxArrayTempl<COrxVertexArrayEx> a, COrxArrayTempl<COrxVertexArrayEx> b,
+ORX_API bool g_region_union(COrxArrayTempl<COrxVertexArrayEx> a,
+                            COrxArrayTempl<COrxVertexArrayEx> b,
                             COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);
 ORX_API bool g_region_sect(COrxArrayTempl<COrxVertexArrayEx> a, COrxArrayTempl<COrxVertexArrayEx> b,
                            COrxArrayTempl<COrxArrayTempl<COrxVertexArrayEx>>& out);

@@ -27,7 +27,8 @@ bool runPlain(Operation operation, RegionEx const& a, RegionEx const& b, RegionL
 
 }  // namespace
 
-COrxVertexArrayEx g_vl_bool(COrxVertexArrayEx a, COrxVertexArrayEx b, COrxVertexArray::boolOper op) {
+COrxVertexArrayEx g_vl_bool(COrxVertexArrayEx a, COrxVertexArrayEx b,
+                            COrxVertexArray::boolOper op) {
     return COrxVertexArrayEx(
         g_vl_bool(static_cast<COrxVertexArray>(a), static_cast<COrxVertexArray>(b), op));
 }

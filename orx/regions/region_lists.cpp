@@ -14,7 +14,8 @@ COrxArrayTempl<To> convertList(COrxArrayTempl<From> const& from) {
 }
 
 template <class To, class From>
-COrxArrayTempl<COrxArrayTempl<To>> convertRegions(COrxArrayTempl<COrxArrayTempl<From>> const& from) {
+COrxArrayTempl<COrxArrayTempl<To>> convertRegions(
+    COrxArrayTempl<COrxArrayTempl<From>> const& from) {
     COrxArrayTempl<COrxArrayTempl<To>> to;
     to.setLogicalLength(from.len());
     for (unsigned long k = 0; k < from.len(); ++k) {

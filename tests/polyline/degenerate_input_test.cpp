@@ -13,18 +13,20 @@ namespace {
 double const kNan = std::numeric_limits<double>::quiet_NaN();
 double const kInf = std::numeric_limits<double>::infinity();
 
-COrxPoint3d pt(double x, double y) { return COrxPoint3d(x, y, 0); }
+COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
 
 std::vector<COrxVertex> oddSegments() {
     return {
-        COrxVertex(pt(1, 1), pt(1, 1), 0.0),         // zero length, straight
-        COrxVertex(pt(1, 1), pt(1, 1), 0.5),         // zero length, "arc"
-        COrxVertex(pt(0, 0), pt(1, 0), 1e-300),      // an arc, nearly straight
-        COrxVertex(pt(0, 0), pt(1, 0), 1e300),       // an arc, nearly a full circle
-        COrxVertex(pt(kNan, 0), pt(1, 0), 0.0),      // NaN point
-        COrxVertex(pt(0, 0), pt(1, kNan), 0.3),      // NaN point on an arc
-        COrxVertex(pt(0, 0), pt(1, 0), kNan),        // NaN bulge
-        COrxVertex(pt(0, 0), pt(kInf, 0), 0.0),      // infinite point
+        COrxVertex(pt(1, 1), pt(1, 1), 0.0),                   // zero length, straight
+        COrxVertex(pt(1, 1), pt(1, 1), 0.5),                   // zero length, "arc"
+        COrxVertex(pt(0, 0), pt(1, 0), 1e-300),                // an arc, nearly straight
+        COrxVertex(pt(0, 0), pt(1, 0), 1e300),                 // an arc, nearly a full circle
+        COrxVertex(pt(kNan, 0), pt(1, 0), 0.0),                // NaN point
+        COrxVertex(pt(0, 0), pt(1, kNan), 0.3),                // NaN point on an arc
+        COrxVertex(pt(0, 0), pt(1, 0), kNan),                  // NaN bulge
+        COrxVertex(pt(0, 0), pt(kInf, 0), 0.0),                // infinite point
         COrxVertex(pt(1e300, 1e300), pt(-1e300, 1e300), 0.5),  // huge coordinates
     };
 }

@@ -9,7 +9,9 @@
 
 namespace {
 
-COrxPoint3d pt(double x, double y) { return COrxPoint3d(x, y, 0); }
+COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
 
 // A counter-clockwise square of side `side` whose corners are rounded with radius r, starting
 // on the bottom edge.
@@ -78,7 +80,8 @@ TEST(NormTest, BackAndForthRunsCollapse) {
 
 TEST(NormTest, NeverErasesACircleMadeOfArcs) {
     COrxVertexArray circle;
-    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), 1.0)).append(COrxVertex(pt(-1, 0), pt(1, 0), 1.0));
+    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), 1.0))
+        .append(COrxVertex(pt(-1, 0), pt(1, 0), 1.0));
     circle.norm(false);
     ASSERT_EQ(circle.len(), 2);
     EXPECT_NEAR(circle.geomLength(), ORX::kTwoPi, 1e-12);

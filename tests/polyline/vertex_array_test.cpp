@@ -9,7 +9,9 @@
 
 namespace {
 
-COrxPoint3d pt(double x, double y) { return COrxPoint3d(x, y, 0); }
+COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
 
 COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners, bool close = true) {
     COrxPoint3dArray points;
@@ -20,7 +22,9 @@ COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners, bool close =
     return vl.fromPoints(points, close);
 }
 
-COrxVertexArray unitSquare() { return polygon({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)}); }
+COrxVertexArray unitSquare() {
+    return polygon({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)});
+}
 
 }  // namespace
 
@@ -31,7 +35,7 @@ TEST(COrxVertexArrayTest, IndexingFoldsNegativesAndGrowsOnlyWhenWritable) {
     EXPECT_EQ(vl[-3].startPoint(), pt(0, 0));
     EXPECT_EQ(vl[-5].startPoint(), pt(1, 0));  // folds into range, never past it
     COrxVertexArray const& view = vl;
-    EXPECT_EQ(view[5].endPoint(), pt(0, 0));   // the shared default segment
+    EXPECT_EQ(view[5].endPoint(), pt(0, 0));  // the shared default segment
     EXPECT_EQ(vl.len(), 3);
     vl[5].set(pt(9, 9), pt(9, 8), 0.0);
     EXPECT_EQ(vl.len(), 6);
@@ -230,7 +234,8 @@ TEST(COrxVertexArrayTest, OrientationOfClosedPolylines) {
     EXPECT_FALSE(ORX::g_vl_orient(ccw, COrxVector3d(0, 0, -1)));
     // Two half circles, clockwise.
     COrxVertexArray circle;
-    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), -1.0)).append(COrxVertex(pt(-1, 0), pt(1, 0), -1.0));
+    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), -1.0))
+        .append(COrxVertex(pt(-1, 0), pt(1, 0), -1.0));
     EXPECT_FALSE(ORX::g_vl_orient(circle, COrxVector3d::kZAxis));
 
     COrxArrayTempl<COrxVertexArray> list;
@@ -249,4 +254,18 @@ TEST(COrxVertexArrayTest, FlatteningArcs) {
     EXPECT_EQ(ORX::g_vl_expl(quarter, 2).len(), 3);  // raised to 2 inner points
     EXPECT_EQ(ORX::g_vl_expl(unitSquare(), 4), unitSquare());
     EXPECT_TRUE(ORX::g_vl_expl(COrxVertexArray(), 4).isEmpty());
+}
+
+TEST(PolylineAreaTest, ExactForArcsAndAddedUpOverLoops) {
+    COrxVertexArray half(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));  // closed by its chord
+    EXPECT_NEAR(ORX::g_vl_area(half), ORX::kHalfPi, 1e-12);
+    EXPECT_NEAR(ORX::g_vl_area(half.reverse()), -ORX::kHalfPi, 1e-12);
+    COrxVertexArray three = unitSquare();
+    three += polygon({pt(5, 5), pt(7, 5), pt(7, 7), pt(5, 7)});
+    three += polygon({pt(20, 0), pt(21, 0), pt(21, 1)});
+    EXPECT_NEAR(ORX::g_vl_area(three), 1 + 4 + 0.5, 1e-12);
+    COrxVertexArray far = unitSquare();
+    far.move(COrxVector3d(1e9, 1e9, 0));
+    EXPECT_NEAR(ORX::g_vl_area(far), 1.0, 1e-9);
+    EXPECT_EQ(ORX::g_vl_area(COrxVertexArray()), 0.0);
 }

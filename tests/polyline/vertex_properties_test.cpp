@@ -5,6 +5,7 @@
 #include <random>
 
 #include "orx/geom/functions.h"
+#include "orx/plane_geometry/plane_geometry.h"
 #include "orx/polyline/vertex.h"
 
 namespace {
@@ -47,7 +48,9 @@ struct RandomSegments {
     }
 };
 
-double relative(double scale) { return 1e-9 * (scale > 1 ? scale : 1); }
+double relative(double scale) {
+    return 1e-9 * (scale > 1 ? scale : 1);
+}
 
 }  // namespace
 

@@ -12,7 +12,9 @@ namespace {
 
 double const kQuarterBulge = std::tan(ORX::kPi / 8);
 
-COrxVertex quarterArc() { return COrxVertex(COrxPoint3d(1, 0, 0), COrxPoint3d(0, 1, 0), kQuarterBulge); }
+COrxVertex quarterArc() {
+    return COrxVertex(COrxPoint3d(1, 0, 0), COrxPoint3d(0, 1, 0), kQuarterBulge);
+}
 
 }  // namespace
 
@@ -177,7 +179,7 @@ TEST(COrxVertexTest, PointQueries) {
     EXPECT_NEAR(d, ORX::kPi / 6, 1e-12);
     EXPECT_FALSE(arc.distAtPoint(d, COrxPoint3d(3, 3, 0)));
     EXPECT_EQ(arc.lotp(COrxPoint3d(0, -2, 0)), COrxPoint3d(0, -1, 0));  // the full circle
-    EXPECT_EQ(arc.orientp(COrxPoint3d(0.1, 0.1, 0)), 1);                 // inside is left
+    EXPECT_EQ(arc.orientp(COrxPoint3d(0.1, 0.1, 0)), 1);                // inside is left
     EXPECT_EQ(arc.orientp(COrxPoint3d(2, 2, 0)), -1);
     EXPECT_EQ(arc.orientp(onArc), 0);
     EXPECT_NEAR(arc.wTan(COrxPoint3d(0, 1, 0)), ORX::kPi, 1e-12);

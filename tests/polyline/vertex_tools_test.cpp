@@ -7,12 +7,17 @@
 #include "orx/geom/functions.h"
 #include "orx/geom/plane.h"
 #include "orx/polyline/polyline_functions.h"
+#include "orx/polyline/vertex_functions.h"
 
 namespace {
 
-COrxPoint3d pt(double x, double y, double z = 0) { return COrxPoint3d(x, y, z); }
+COrxPoint3d pt(double x, double y, double z = 0) {
+    return COrxPoint3d(x, y, z);
+}
 
-COrxVertex upperHalf() { return COrxVertex(pt(1, 0), pt(-1, 0), 1.0); }
+COrxVertex upperHalf() {
+    return COrxVertex(pt(1, 0), pt(-1, 0), 1.0);
+}
 
 COrxPoint3dArray points(std::initializer_list<COrxPoint3d> list) {
     COrxPoint3dArray a;

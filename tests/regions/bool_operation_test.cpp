@@ -89,11 +89,13 @@ TEST(BoolOperationTest, SelfAndDegenerateOperands) {
     EXPECT_TRUE(ORX::g_vl_bool(a, a, COrxVertexArray::boolUnion).isEmpty());
     EXPECT_NEAR(area(ORX::g_vl_bool(a, a, COrxVertexArray::boolSect)), area(a), 1e-9);
     EXPECT_TRUE(ORX::g_vl_bool(a, COrxVertexArray(), COrxVertexArray::boolSect).isEmpty());
-    EXPECT_TRUE(ORX::g_vl_bool(COrxVertexArray(), COrxVertexArray(), COrxVertexArray::boolUnion).isEmpty());
+    EXPECT_TRUE(
+        ORX::g_vl_bool(COrxVertexArray(), COrxVertexArray(), COrxVertexArray::boolUnion).isEmpty());
     EXPECT_TRUE(ORX::g_vl_bool(a, rectangle(1, 1, 2, 2), static_cast<COrxVertexArray::boolOper>(7))
                     .isEmpty());
     // The difference of disjoint outlines is the first, normalised.
-    COrxVertexArray const d = ORX::g_vl_bool(a, rectangle(10, 10, 11, 11), COrxVertexArray::boolDiff);
+    COrxVertexArray const d =
+        ORX::g_vl_bool(a, rectangle(10, 10, 11, 11), COrxVertexArray::boolDiff);
     EXPECT_NEAR(area(d), area(a), 1e-12);
     EXPECT_EQ(d.len(), 8);
     // A single segment and a zero-length one.
@@ -152,7 +154,7 @@ TEST(BoolOperationTest, PointInPolyline) {
     COrxVertexArray const square = rectangle(0, 0, 4, 4);
     EXPECT_TRUE(ORX::g_vl_pt_inside(square, pt(1, 1), false));
     EXPECT_FALSE(ORX::g_vl_pt_inside(square, pt(5, 1), true));
-    EXPECT_TRUE(ORX::g_vl_pt_inside(square, pt(4, 2), true));   // on the boundary
+    EXPECT_TRUE(ORX::g_vl_pt_inside(square, pt(4, 2), true));  // on the boundary
     EXPECT_FALSE(ORX::g_vl_pt_inside(square, pt(4, 2), false));
     EXPECT_TRUE(ORX::g_vl_pt_inside(square, COrxPoint3d(1, 1, 50), false));  // planar
     // The first ray runs from the first edge's midpoint (2, 0) through p and on through the

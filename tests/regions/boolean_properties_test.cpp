@@ -24,7 +24,9 @@ class ShapeMaker {
 public:
     explicit ShapeMaker(unsigned seed) : m_engine(seed) {}
 
-    double uniform(double lo, double hi) { return std::uniform_real_distribution<double>(lo, hi)(m_engine); }
+    double uniform(double lo, double hi) {
+        return std::uniform_real_distribution<double>(lo, hi)(m_engine);
+    }
     int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(m_engine); }
 
     // Overlapping circles, rounded rectangles, rotated squares and shapes whose arcs cross
@@ -108,7 +110,9 @@ void expectLoopsClosed(RegionList const& list) {
     }
 }
 
-double relativeTol(double a, double b) { return 1e-6 * std::max({1.0, std::fabs(a), std::fabs(b)}); }
+double relativeTol(double a, double b) {
+    return 1e-6 * std::max({1.0, std::fabs(a), std::fabs(b)});
+}
 
 }  // namespace
 

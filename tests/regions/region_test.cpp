@@ -10,9 +10,9 @@ using namespace orx_test;
 TEST(RegionTest, PointInRegionWithHoles) {
     Region const plate = region({rectangle(0, 0, 10, 10), rectangle(2, 2, 4, 4)});
     EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(5, 5)), 1);
-    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(3, 3)), -1);   // inside the hole
-    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(4, 3)), 0);    // on the hole's edge
-    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(10, 3)), 0);   // on the outer loop
+    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(3, 3)), -1);  // inside the hole
+    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(4, 3)), 0);   // on the hole's edge
+    EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(10, 3)), 0);  // on the outer loop
     EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(11, 3)), -1);
     EXPECT_EQ(ORX::g_vll_pt_inside(Region(), pt(1, 1)), -1);
 }
@@ -64,8 +64,8 @@ TEST(RegionTest, SquaresTouchingAlongASide) {
 
 TEST(RegionTest, SquareMinusInnerSquareHasAHoleInTheCommonSense) {
     RegionList out;
-    ASSERT_TRUE(ORX::g_region_diff(region({rectangle(0, 0, 10, 10)}), region({rectangle(2, 2, 4, 4)}),
-                                   out));
+    ASSERT_TRUE(ORX::g_region_diff(region({rectangle(0, 0, 10, 10)}),
+                                   region({rectangle(2, 2, 4, 4)}), out));
     ASSERT_EQ(out.len(), 1u);
     ASSERT_EQ(out[0].len(), 2u);
     EXPECT_TRUE(ORX::g_vl_orient(out[0][1], COrxVector3d::kZAxis));
@@ -123,7 +123,8 @@ TEST(RegionTest, SplittingAChainIntoLoops) {
 
 TEST(RegionTest, GroupingLoopsByNestingDepth) {
     Region loops;
-    loops.append(rectangle(2, 2, 8, 8))     // 0: hole of 3
+    loops
+        .append(rectangle(2, 2, 8, 8))      // 0: hole of 3
         .append(rectangle(4, 4, 6, 6))      // 1: island in the hole
         .append(rectangle(20, 0, 21, 1))    // 2: a region on its own
         .append(rectangle(0, 0, 10, 10))    // 3: outer
@@ -141,9 +142,10 @@ TEST(RegionTest, GroupingLoopsByNestingDepth) {
 
 TEST(RegionTest, BuildingRegionsFromUnorderedLoops) {
     Region nested;
-    nested.append(rectangle(2, 2, 8, 8))      // 0: hole of 1
-        .append(rectangle(0, 0, 10, 10))      // 1: outer
-        .append(rectangle(4, 4, 6, 6));       // 2: island in the hole
+    nested
+        .append(rectangle(2, 2, 8, 8))    // 0: hole of 1
+        .append(rectangle(0, 0, 10, 10))  // 1: outer
+        .append(rectangle(4, 4, 6, 6));   // 2: island in the hole
     RegionList const plain = ORX::g_vll_regions(nested, 0);
     ASSERT_EQ(plain.len(), 2u);
     EXPECT_EQ(plain[0][0], nested[1]);

@@ -14,7 +14,9 @@ namespace orx_test {
 using Region = COrxArrayTempl<COrxVertexArray>;
 using RegionList = COrxArrayTempl<Region>;
 
-inline COrxPoint3d pt(double x, double y) { return COrxPoint3d(x, y, 0); }
+inline COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
 
 // Counter-clockwise polygon through the corners.
 inline COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners) {
@@ -68,7 +70,9 @@ inline Region region(std::initializer_list<COrxVertexArray> loops) {
 }
 
 // Signed area of all loops of a (possibly multi-loop) polyline.
-inline double area(COrxVertexArray const& vl) { return ORX::g_vl_area(vl); }
+inline double area(COrxVertexArray const& vl) {
+    return ORX::g_vl_area(vl);
+}
 
 // Area of a region whose loops all run counter-clockwise: outer minus holes.
 inline double area(Region const& r) {
