@@ -32,11 +32,14 @@ int COrxArray::setLength(int n) {
     if (m_length <= m_capacity) {
         return 0;
     }
-    int capacity = m_capacity;
-    while (capacity < m_length) {
+    m_capacity = nextCapacity(m_capacity, m_length);
+    return m_capacity;
+}
+
+int COrxArray::nextCapacity(int capacity, int n) {
+    while (capacity < n) {
         // Doubling past INT_MAX would overflow; the request itself is then the capacity.
-        capacity = capacity > INT_MAX / 2 ? m_length : (capacity * 2 > 8 ? capacity * 2 : 8);
+        capacity = capacity > INT_MAX / 2 ? n : (capacity * 2 > 8 ? capacity * 2 : 8);
     }
-    m_capacity = capacity;
     return capacity;
 }

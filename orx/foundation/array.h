@@ -31,6 +31,11 @@ protected:
     // Pure, so that every derived class reallocates its own block.
     virtual int setLength(int n) = 0;
 
+    // The capacity the base body grows to for n elements: repeated max(8, 2 * capacity)
+    // from the given capacity until n fits. Lets a derived class allocate its new block
+    // before the bookkeeping changes (and keep everything as it was when that fails).
+    static int nextCapacity(int capacity, int n);
+
 private:
     int m_capacity;
     int m_length;

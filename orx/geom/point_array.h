@@ -67,6 +67,11 @@ public:
     // Component-wise minimum and maximum of all points; false for an empty array, min and
     // max untouched.
     bool extents(COrxPoint3d& min, COrxPoint3d& max) const;
+    // Ray parity against the polygon through the points (closed from the last point back to
+    // the first): the ray runs from p for 1e9 units towards the midpoint of the first two
+    // points; no re-aiming when it passes through a corner; planar. False for fewer than 3
+    // points. (Defined with the segments, in orx/polyline/point_array_inside.cpp.)
+    bool ptInside(COrxPoint3d const& p) const;
     // The same object, or the same length with pairwise equal points (point tolerance).
     bool operator==(COrxPoint3dArray const& other) const;
     bool operator!=(COrxPoint3dArray const& other) const;

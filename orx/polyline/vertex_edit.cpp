@@ -1,0 +1,147 @@
+// COrxVertex: editing (direction, transformations, moving an end along the circle, offset).
+#include <cmath>
+
+#include "orx/geom/functions.h"
+#include "orx/geom/matrix.h"
+#include "orx/geom/matrix_functions.h"
+#include "orx/geom/plane.h"
+#include "orx/plane_geometry/plane_geometry.h"
+#include "orx/polyline/vertex.h"
+
+namespace {
+
+// Negation that keeps a straight segment's bulge exactly +0.0.
+double negatedBulge(double bulge) {
+    return bulge == 0.0 ? 0.0 : -bulge;
+}
+
+// The bulge of the arc about a fixed circle from angle a0 to angle a1, turning the way
+// `sense` (the old bulge) turned.
+double bulgeWithSense(double a0, double a1, double sense) {
+    return sense > 0.0 ? ORX::g_arc_bulg(a0, a1) : -ORX::g_arc_bulg(a1, a0);
+}
+
+}  // namespace
+
+COrxVertex& COrxVertex::revert() {
+    COrxPoint3d const start = m_start;
+    m_start = m_end;
+    m_end = start;
+    m_bulge = negatedBulge(m_bulge);
+    return *this;
+}
+
+COrxVertex COrxVertex::reverse() const {
+    COrxVertex copy(m_start, m_end, m_bulge);
+    return copy.revert();
+}
+
+COrxVertex& COrxVertex::complement() {
+    revert();
+    if (!isStraight()) {
+        m_bulge = std::tan((4.0 * std::atan(m_bulge) - ORX::kTwoPi) / 4.0);
+    }
+    return *this;
+}
+
+COrxVertex COrxVertex::unite(COrxVertex const& other) const {
+    COrxVertex united(*this);
+    if (&other != this) {
+        united.setEndPoint(other.m_end);
+    }
+    return united;
+}
+
+COrxVertex& COrxVertex::move(COrxVector3d const& v) {
+    m_start += v;
+    m_end += v;
+    return *this;
+}
+
+COrxVertex& COrxVertex::rotate(double angle, COrxPoint3d const& centre) {
+    COrxMatrix3d rotation;
+    rotation.setToRotation(angle, COrxVector3d::kZAxis, centre);
+    return transformBy(rotation);
+}
+
+COrxVertex& COrxVertex::transformBy(double const (*m)[4]) {
+    m_start *= m;
+    m_end *= m;
+    if (!isStraight() && ORX::mtxIsMir(m)) {
+        m_bulge = -m_bulge;
+    }
+    return *this;
+}
+
+COrxVertex COrxVertex::getTransformedCopy(double const (*m)[4]) const {
+    COrxVertex copy(*this);
+    return copy.transformBy(m);
+}
+
+COrxVertex& COrxVertex::mirror(double angle, COrxPoint3d const& p) {
+    COrxMatrix3d reflection;
+    reflection.setToMirroring(COrxPlane(p, COrxVector3d(-std::sin(angle), std::cos(angle), 0)));
+    m_start *= reflection;
+    m_end *= reflection;
+    m_bulge = negatedBulge(m_bulge);
+    return *this;
+}
+
+COrxVertex& COrxVertex::setEndPoint(COrxPoint3d const& q) {
+    COrxPoint3d c;
+    double r = 0.0;
+    if (!center(c) || !radius(r)) {
+        m_end = q;
+        return *this;
+    }
+    double const a0 = ORX::angle(c, m_start);
+    double const a1 = ORX::angle(c, q);
+    m_end = ORX::polar(c, a1, r);
+    m_bulge = bulgeWithSense(a0, a1, m_bulge);
+    return *this;
+}
+
+COrxVertex& COrxVertex::setStartPoint(COrxPoint3d const& q) {
+    COrxPoint3d c;
+    double r = 0.0;
+    if (!center(c) || !radius(r)) {
+        m_start = q;
+        return *this;
+    }
+    double const a0 = ORX::angle(c, q);
+    double const a1 = ORX::angle(c, m_end);
+    m_start = ORX::polar(c, a0, r);
+    m_bulge = bulgeWithSense(a0, a1, m_bulge);
+    return *this;
+}
+
+COrxVertex& COrxVertex::offset(double d) {
+    if (d == 0.0 || !std::isfinite(d)) {
+        return *this;
+    }
+    COrxPoint3d c;
+    double r = 0.0;
+    if (!center(c) || !radius(r)) {
+        COrxVector3d const right = (COrxVector3d::kZAxis * (m_start - m_end)).normal();
+        return move(right * d);
+    }
+    double const signedD = m_bulge > 0.0 ? d : -d;
+    if (r + signedD < 0.0) {
+        m_start = c;  // the arc collapses onto its centre; the bulge is kept
+        m_end = c;
+        return *this;
+    }
+    m_start += (m_start - c).normal() * signedD;
+    m_end += (m_end - c).normal() * signedD;
+    return *this;
+}
+
+COrxVertex& COrxVertex::offset(COrxPoint3d p) {
+    COrxPoint3d const foot = lotp(p);
+    int const side = orientp(p);
+    if (side == 0) {
+        return *this;
+    }
+    // Positive offsets go to the right of the direction of travel.
+    return offset(side > 0 ? -foot.distanceTo(p) : foot.distanceTo(p));
+}

@@ -1,0 +1,138 @@
+// Degenerate input: every operation gives its documented result and never crashes or hangs
+// (the sanitizer build runs these too).
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "orx/polyline/polyline.h"
+
+namespace {
+
+double const kNan = std::numeric_limits<double>::quiet_NaN();
+double const kInf = std::numeric_limits<double>::infinity();
+
+COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
+
+std::vector<COrxVertex> oddSegments() {
+    return {
+        COrxVertex(pt(1, 1), pt(1, 1), 0.0),                   // zero length, straight
+        COrxVertex(pt(1, 1), pt(1, 1), 0.5),                   // zero length, "arc"
+        COrxVertex(pt(0, 0), pt(1, 0), 1e-300),                // an arc, nearly straight
+        COrxVertex(pt(0, 0), pt(1, 0), 1e300),                 // an arc, nearly a full circle
+        COrxVertex(pt(kNan, 0), pt(1, 0), 0.0),                // NaN point
+        COrxVertex(pt(0, 0), pt(1, kNan), 0.3),                // NaN point on an arc
+        COrxVertex(pt(0, 0), pt(1, 0), kNan),                  // NaN bulge
+        COrxVertex(pt(0, 0), pt(kInf, 0), 0.0),                // infinite point
+        COrxVertex(pt(1e300, 1e300), pt(-1e300, 1e300), 0.5),  // huge coordinates
+    };
+}
+
+// Runs every query and edit of the segment; the values do not matter here, only that each
+// call returns.
+void exercise(COrxVertex const& v, COrxVertex const& other) {
+    COrxPoint3d c, p;
+    double r = 0, a0 = 0, a1 = 0, d = 0;
+    v.center(c);
+    v.toArc(c, r, a0, a1);
+    (void)v.bulgLen();
+    (void)v.mid();
+    (void)v.isPoint(pt(0.5, 0));
+    (void)v.lotp(pt(0.5, 3));
+    v.distAtPoint(d, pt(0.5, 0));
+    v.pointAtDist(p, 0.5, true);
+    v.pointAtDist(p, 1e9, false);
+    (void)v.orientp(pt(0.5, 3));
+    (void)v.wTan(pt(0.5, 0));
+    (void)v.coLinear(other);
+    COrxPoint3dArray pts;
+    v.intersectWith(pts, other, 0);
+    v.intersectWith(pts, other, COrxVertex::kSkipTangent | COrxVertex::kExtended);
+    (void)v.intersectWithBulg0(other);
+    v.intNear(other, pt(0, 0), p);
+    (void)ORX::g_vx_split_n(v, 0.01);
+    (void)ORX::g_bulg_split(v);
+    (void)ORX::vx_start_dir(v);
+    COrxVertex edited(v);
+    edited.complement().offset(0.5).offset(pt(2, 2)).setEndPoint(pt(3, 3));
+    edited.setStartPoint(pt(-1, 0)).mirror(0.3, pt(0, 0)).rotate(1.0, pt(1, 1));
+    COrxVertex first(v), second(other);
+    ORX::g_vx_trim(first, second);
+}
+
+}  // namespace
+
+TEST(DegenerateInputTest, OddSegmentsAnswerEveryQuery) {
+    std::vector<COrxVertex> const segments = oddSegments();
+    COrxVertex const ordinary(pt(0, -1), pt(1, 1), 0.2);
+    for (COrxVertex const& v : segments) {
+        exercise(v, ordinary);
+        exercise(ordinary, v);
+        for (COrxVertex const& w : segments) {
+            exercise(v, w);
+        }
+    }
+}
+
+TEST(DegenerateInputTest, DocumentedValuesOfOddSegments) {
+    std::vector<COrxVertex> const s = oddSegments();
+    EXPECT_FALSE(s[2].isStraight());  // the zero test is exact
+    EXPECT_GT(s[2].radius(), 1e290);
+    EXPECT_NEAR(s[2].bulgLen(), 1.0, 1e-12);
+    EXPECT_EQ(s[2].mid(), pt(0.5, 0));
+    EXPECT_TRUE(std::isfinite(s[3].radius()));
+    EXPECT_TRUE(std::isnan(s[4].bulgLen()));
+    COrxPoint3dArray pts;
+    EXPECT_FALSE(s[4].intersectWith(pts, COrxVertex(pt(0.5, -1), pt(0.5, 1), 0.0), 0));
+    EXPECT_EQ(s[0].bulgLen(), 0.0);
+    EXPECT_EQ(s[1].bulgLen(), 0.0);
+}
+
+TEST(DegenerateInputTest, EmptyAndDegeneratePolylines) {
+    COrxVertexArray empty;
+    COrxPoint3d lo(1, 2, 3), hi;
+    double d = 5;
+    EXPECT_FALSE(empty.isClosed());
+    EXPECT_TRUE(empty.isContinuous());
+    EXPECT_EQ(empty.numOpens(), 0);
+    EXPECT_EQ(empty.geomLength(), 0.0);
+    EXPECT_FALSE(empty.extents(lo, hi));
+    EXPECT_FALSE(empty.distAtPoint(d, pt(0, 0)));
+    EXPECT_FALSE(empty.pointAtDist(lo, 0));
+    EXPECT_EQ(lo, COrxPoint3d(1, 2, 3));
+    EXPECT_EQ(empty.vxNear(pt(0, 0)), COrxVertex());
+    EXPECT_TRUE(empty.pts(true, 0.1).isEmpty());
+    EXPECT_TRUE(empty.norm(false).isEmpty());
+    EXPECT_TRUE(empty.offset(1.0, true).isEmpty());
+    EXPECT_TRUE(empty.close(true).isEmpty());
+    EXPECT_TRUE(empty.reverse().isEmpty());
+    EXPECT_TRUE(ORX::g_vl_expl(empty, 3).isEmpty());
+
+    // Only zero-length segments: norm leaves nothing.
+    COrxVertexArray dots;
+    dots.append(COrxVertex(pt(1, 1), pt(1, 1), 0.0)).append(COrxVertex(pt(1, 1), pt(1, 1), 0.4));
+    EXPECT_TRUE(dots.norm(false).isEmpty());
+
+    // Polylines built from every odd segment run through the whole-polyline operations.
+    COrxVertexArray odd;
+    for (COrxVertex const& v : oddSegments()) {
+        odd.append(v);
+    }
+    COrxVertexArray copy = odd;
+    copy.norm(false);
+    copy = odd;
+    copy.offset(0.5, true);
+    copy = odd;
+    copy.offset(-0.5, false);
+    (void)odd.extents(lo, hi);
+    (void)odd.pts(true, 0.01);
+    (void)odd.geomLength();
+    (void)odd.vxNear(pt(0, 0));
+    (void)ORX::g_vl_expl(odd, 2);
+    (void)ORX::g_vl_orient(odd, COrxVector3d::kZAxis);
+    COrxPoint3dArray pts;
+    odd.intersectWith(pts, odd.reverse(), 0);
+}

@@ -1,0 +1,271 @@
+#include "orx/polyline/vertex_array.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "orx/geom/functions.h"
+#include "orx/polyline/polyline_functions.h"
+
+namespace {
+
+COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
+
+COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners, bool close = true) {
+    COrxPoint3dArray points;
+    for (COrxPoint3d const& p : corners) {
+        points.append(p);
+    }
+    COrxVertexArray vl;
+    return vl.fromPoints(points, close);
+}
+
+COrxVertexArray unitSquare() {
+    return polygon({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)});
+}
+
+}  // namespace
+
+TEST(COrxVertexArrayTest, IndexingFoldsNegativesAndGrowsOnlyWhenWritable) {
+    COrxVertexArray vl = polygon({pt(0, 0), pt(1, 0), pt(2, 0), pt(3, 0)}, false);
+    ASSERT_EQ(vl.len(), 3);
+    EXPECT_EQ(vl[-1].startPoint(), pt(2, 0));
+    EXPECT_EQ(vl[-3].startPoint(), pt(0, 0));
+    EXPECT_EQ(vl[-5].startPoint(), pt(1, 0));  // folds into range, never past it
+    COrxVertexArray const& view = vl;
+    EXPECT_EQ(view[5].endPoint(), pt(0, 0));  // the shared default segment
+    EXPECT_EQ(vl.len(), 3);
+    vl[5].set(pt(9, 9), pt(9, 8), 0.0);
+    EXPECT_EQ(vl.len(), 6);
+    EXPECT_EQ(vl[4], COrxVertex());
+
+    COrxVertexArray one(COrxVertex(pt(0, 0), pt(1, 1), 0.0));
+    EXPECT_EQ(one[-1].endPoint(), pt(1, 1));
+    COrxVertexArray empty;
+    (void)empty[-2];
+    EXPECT_EQ(empty.len(), 0);
+}
+
+TEST(COrxVertexArrayTest, AppendingFromPointsStartsAtTheOrigin) {
+    COrxVertexArray vl;
+    vl.append(pt(3, 0), 0.0).append(pt(3, 3), 0.5);
+    EXPECT_EQ(vl[0].startPoint(), pt(0, 0));
+    EXPECT_EQ(vl[1].startPoint(), pt(3, 0));
+    EXPECT_EQ(vl[1].bulge(), 0.5);
+    EXPECT_EQ(vl.normal(), COrxVector3d::kZAxis);
+}
+
+TEST(COrxVertexArrayTest, AppendingAnOwnSegmentSurvivesGrowth) {
+    COrxVertexArray vl;
+    for (int k = 0; k < 8; ++k) {
+        vl.append(COrxVertex(pt(k, 0), pt(k + 1, 0), 0.0));
+    }
+    ASSERT_EQ(vl.len(), vl.capacity());
+    vl.append(vl[2]);
+    EXPECT_EQ(vl[8].startPoint(), pt(2, 0));
+    vl.insertAt(0, vl[-1]);
+    EXPECT_EQ(vl[0].startPoint(), pt(2, 0));
+    vl += vl;
+    EXPECT_EQ(vl.len(), 20);
+    EXPECT_EQ(vl[10], vl[0]);
+}
+
+TEST(COrxVertexArrayTest, ClosureComesFromTheGeometry) {
+    EXPECT_TRUE(unitSquare().isClosed());
+    COrxVertexArray there;
+    there.append(COrxVertex(pt(0, 0), pt(1, 0), 0.0)).append(COrxVertex(pt(1, 0), pt(0, 0), 0.5));
+    EXPECT_TRUE(there.isClosed());
+    COrxVertexArray loop(COrxVertex(pt(0, 0), pt(0, 0), 1.0));
+    EXPECT_FALSE(loop.isClosed());
+    EXPECT_TRUE(loop.isContinuous());
+    COrxVertexArray gapped = unitSquare();
+    gapped[2].set(pt(1, 1.5), pt(0, 1), 0.0);
+    EXPECT_FALSE(gapped.isClosed());
+    EXPECT_EQ(gapped.numOpens(), 1);
+    gapped.close(true);
+    EXPECT_EQ(gapped.len(), 5);
+    EXPECT_TRUE(gapped.isClosed());
+
+    COrxVertexArray open = polygon({pt(0, 0), pt(1, 0), pt(1, 1)}, false);
+    open.close(true);
+    EXPECT_EQ(open.len(), 3);
+    EXPECT_TRUE(open.isClosed());
+    EXPECT_EQ(polygon({pt(0, 0), pt(1, 0), pt(0, 0)}).len(), 2);  // already closed list
+    EXPECT_EQ(polygon({pt(5, 5)}, false).len(), 0);
+}
+
+TEST(COrxVertexArrayTest, RemoveWithBridgeKeepsChainConnected) {
+    COrxVertexArray vl = polygon({pt(0, 0), pt(1, 0), pt(2, 0), pt(3, 0)}, false);
+    vl.remove(1, true);
+    ASSERT_EQ(vl.len(), 2);
+    EXPECT_EQ(vl[1].startPoint(), pt(1, 0));
+    EXPECT_TRUE(vl.isContinuous());
+    vl.remove(7, true);
+    EXPECT_EQ(vl.len(), 2);
+    vl.remove(0, false);
+    EXPECT_EQ(vl[0].startPoint(), pt(1, 0));
+}
+
+TEST(COrxVertexArrayTest, BreakVertexSplitsArcsOnTheirCircle) {
+    COrxVertexArray vl(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));
+    vl.breakVertex(0, pt(0, 1));
+    ASSERT_EQ(vl.len(), 2);
+    EXPECT_EQ(vl[0].endPoint(), pt(0, 1));
+    EXPECT_NEAR(vl[0].bulge(), std::tan(ORX::kPi / 8), 1e-12);
+    EXPECT_NEAR(vl[1].bulge(), std::tan(ORX::kPi / 8), 1e-12);
+    EXPECT_NEAR(vl.geomLength(), ORX::kPi, 1e-12);
+}
+
+TEST(COrxVertexArrayTest, JoinTriesItsRulesInOrder) {
+    COrxVertexArray const ab = polygon({pt(0, 0), pt(1, 0)}, false);
+    COrxVertexArray const bc = polygon({pt(1, 0), pt(2, 0)}, false);
+    COrxVertexArray const cb = polygon({pt(2, 0), pt(1, 0)}, false);
+    COrxVertexArray const za = polygon({pt(-1, 0), pt(0, 0)}, false);
+
+    COrxVertexArray joined = ab;
+    ASSERT_TRUE(joined.join(bc, false));
+    EXPECT_EQ(joined[-1].endPoint(), pt(2, 0));
+    joined = ab;
+    ASSERT_TRUE(joined.join(za, false));
+    EXPECT_EQ(joined[0].startPoint(), pt(-1, 0));
+    joined = ab;
+    EXPECT_FALSE(joined.join(cb, false));  // meets only when reversed
+    ASSERT_TRUE(joined.join(cb, true));
+    EXPECT_EQ(joined.len(), 2);
+    EXPECT_EQ(joined[1].endPoint(), pt(2, 0));
+
+    COrxVertexArray empty;
+    ASSERT_TRUE(empty.join(unitSquare(), false));
+    EXPECT_EQ(empty.len(), 4);
+    EXPECT_FALSE(empty.join(ab, true));  // closed now
+    joined = ab;
+    EXPECT_FALSE(joined.join(unitSquare(), true));
+    EXPECT_FALSE(joined.join(COrxVertexArray(), true));
+
+    COrxVertexArray bySegment = ab;
+    ASSERT_TRUE(bySegment.join(COrxVertex(pt(2, 0), pt(1, 0), 0.0), true));
+    EXPECT_EQ(bySegment[1], COrxVertex(pt(1, 0), pt(2, 0), 0.0));
+    EXPECT_FALSE(bySegment.join(COrxVertex(pt(7, 0), pt(8, 0), 0.0), true));
+}
+
+TEST(COrxVertexArrayTest, TransformationsCarryTheNormalAndFlipBulges) {
+    COrxVertexArray vl(COrxVertex(pt(1, 0), pt(0, 1), 0.4));
+    double const mirrorX[4][4] = {{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
+    COrxVertexArray const mirrored = vl.getTransformedCopy(mirrorX);
+    EXPECT_EQ(mirrored[0].bulge(), -0.4);
+    double const flipZ[4][4] = {{1, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, -1, 0}, {0, 0, 0, 1}};
+    EXPECT_EQ(vl.getTransformedCopy(flipZ).normal(), COrxVector3d(0, 0, -1));
+    vl.rotate(ORX::kPi, pt(0, 0));
+    EXPECT_EQ(vl[0].startPoint(), pt(-1, 0));
+    EXPECT_FALSE(vl.setNormal(COrxVector3d()));
+    EXPECT_TRUE(vl.setNormal(COrxVector3d(0, 0, 5)));
+    EXPECT_EQ(vl.normal(), COrxVector3d::kZAxis);
+    COrxVertexArray const back = vl.reverse();
+    EXPECT_EQ(back[0].startPoint(), vl[0].endPoint());
+    EXPECT_EQ(back[0].bulge(), -0.4);
+}
+
+TEST(COrxVertexArrayTest, LengthsAndPointsAlongThePolyline) {
+    COrxVertexArray vl;
+    vl.append(pt(2, 0), 0.0).append(pt(2, 2), 1.0);  // a half circle of radius 1
+    EXPECT_NEAR(vl.geomLength(), 2 + ORX::kPi, 1e-12);
+    double d = 0;
+    ASSERT_TRUE(vl.distAtPoint(d, pt(3, 1)));
+    EXPECT_NEAR(d, 2 + ORX::kHalfPi, 1e-12);
+    EXPECT_FALSE(vl.distAtPoint(d, pt(1, 1)));
+    COrxPoint3d p;
+    ASSERT_TRUE(vl.pointAtDist(p, 1.0));
+    EXPECT_EQ(p, pt(1, 0));
+    ASSERT_TRUE(vl.pointAtDist(p, 2 + ORX::kHalfPi));
+    EXPECT_EQ(p, pt(3, 1));
+    EXPECT_FALSE(vl.pointAtDist(p, 10));
+    EXPECT_FALSE(vl.pointAtDist(p, -1));
+    EXPECT_TRUE(vl.isPoint(pt(3, 1)));
+    EXPECT_EQ(vl.vxNear(pt(3.5, 1)).bulge(), 1.0);
+    EXPECT_EQ(vl.vxNear(pt(1, -3)).bulge(), 0.0);
+}
+
+TEST(COrxVertexArrayTest, ExtentsAreTightAroundArcs) {
+    COrxVertexArray vl(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));  // upper half circle
+    COrxPoint3d lo, hi;
+    ASSERT_TRUE(vl.extents(lo, hi));
+    EXPECT_EQ(lo, pt(-1, 0));
+    EXPECT_EQ(hi, pt(1, 1));
+    COrxVertexArray minor(COrxVertex(pt(1, 0), pt(0, 1), 0.2));  // no axis point inside
+    ASSERT_TRUE(minor.extents(lo, hi));
+    EXPECT_EQ(hi, pt(1, 1));
+    COrxPoint3d untouched(7, 7, 7);
+    EXPECT_FALSE(COrxVertexArray().extents(untouched, hi));
+    EXPECT_EQ(untouched, COrxPoint3d(7, 7, 7));
+}
+
+TEST(COrxVertexArrayTest, CornerPointsWithTessellatedArcs) {
+    COrxVertexArray half(COrxVertex(pt(10, 0), pt(-10, 0), 1.0));
+    COrxPoint3dArray const pts = half.pts(true, 0.1);
+    ASSERT_EQ(pts.len(), 13);  // start, 11 inner points (12 pieces), end
+    for (int k = 0; k < pts.len(); ++k) {
+        EXPECT_NEAR(pts[k].distanceTo(pt(0, 0)), 10.0, 1e-9);
+    }
+    EXPECT_EQ(half.pts(false, 0.1).len(), 2);
+    EXPECT_EQ(unitSquare().pts(false, 0.1).len(), 4);  // closed: first point not repeated
+    EXPECT_EQ(COrxVertexArray().pts(true, 0.1).len(), 0);
+}
+
+TEST(COrxVertexArrayTest, IntersectionsOfPolylines) {
+    COrxVertexArray const square = unitSquare();
+    COrxVertexArray const line = polygon({pt(-1, 0.5), pt(2, 0.5)}, false);
+    COrxPoint3dArray pts;
+    EXPECT_FALSE(square.intersectWith(pts, square, 0));
+    EXPECT_EQ(pts.len(), 0);
+    ASSERT_TRUE(square.intersectWith(pts, line, 0));
+    EXPECT_EQ(pts.len(), 2);
+    // A corner is found by both of its segments but reported once.
+    COrxVertexArray const diagonal = polygon({pt(-1, -1), pt(2, 2)}, false);
+    EXPECT_EQ(square.intersectWith(diagonal, 0).len(), 2);
+    EXPECT_EQ(square.intersectWithBulg0(diagonal).len(), 2);
+}
+
+TEST(COrxVertexArrayTest, OrientationOfClosedPolylines) {
+    COrxVertexArray const ccw = unitSquare();
+    EXPECT_TRUE(ORX::g_vl_orient(ccw, COrxVector3d::kZAxis));
+    EXPECT_FALSE(ORX::g_vl_orient(ccw.reverse(), COrxVector3d::kZAxis));
+    EXPECT_FALSE(ORX::g_vl_orient(ccw, COrxVector3d(0, 0, -1)));
+    // Two half circles, clockwise.
+    COrxVertexArray circle;
+    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), -1.0))
+        .append(COrxVertex(pt(-1, 0), pt(1, 0), -1.0));
+    EXPECT_FALSE(ORX::g_vl_orient(circle, COrxVector3d::kZAxis));
+
+    COrxArrayTempl<COrxVertexArray> list;
+    list.append(ccw.reverse()).append(circle).append(polygon({pt(0, 0), pt(5, 5)}, false));
+    ORX::setOrient(list, COrxVector3d::kZAxis);
+    EXPECT_TRUE(ORX::g_vl_orient(list[0], COrxVector3d::kZAxis));
+    EXPECT_TRUE(ORX::g_vl_orient(list[1], COrxVector3d::kZAxis));
+    EXPECT_EQ(list[2][0].startPoint(), pt(0, 0));  // open: left alone
+}
+
+TEST(COrxVertexArrayTest, FlatteningArcs) {
+    COrxVertexArray half(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));
+    EXPECT_EQ(ORX::g_vl_expl(half, 0).len(), 3);  // 2 inner points
+    EXPECT_EQ(ORX::g_vl_expl(half, 4).len(), 5);  // 4 pieces per half circle: 4 inner points
+    COrxVertexArray quarter(COrxVertex(pt(1, 0), pt(0, 1), std::tan(ORX::kPi / 8)));
+    EXPECT_EQ(ORX::g_vl_expl(quarter, 2).len(), 3);  // raised to 2 inner points
+    EXPECT_EQ(ORX::g_vl_expl(unitSquare(), 4), unitSquare());
+    EXPECT_TRUE(ORX::g_vl_expl(COrxVertexArray(), 4).isEmpty());
+}
+
+TEST(PolylineAreaTest, ExactForArcsAndAddedUpOverLoops) {
+    COrxVertexArray half(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));  // closed by its chord
+    EXPECT_NEAR(ORX::g_vl_area(half), ORX::kHalfPi, 1e-12);
+    EXPECT_NEAR(ORX::g_vl_area(half.reverse()), -ORX::kHalfPi, 1e-12);
+    COrxVertexArray three = unitSquare();
+    three += polygon({pt(5, 5), pt(7, 5), pt(7, 7), pt(5, 7)});
+    three += polygon({pt(20, 0), pt(21, 0), pt(21, 1)});
+    EXPECT_NEAR(ORX::g_vl_area(three), 1 + 4 + 0.5, 1e-12);
+    COrxVertexArray far = unitSquare();
+    far.move(COrxVector3d(1e9, 1e9, 0));
+    EXPECT_NEAR(ORX::g_vl_area(far), 1.0, 1e-9);
+    EXPECT_EQ(ORX::g_vl_area(COrxVertexArray()), 0.0);
+}

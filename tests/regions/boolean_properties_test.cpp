@@ -1,0 +1,193 @@
+// Properties of the boolean and region operations on generated operands in general position:
+// areas add up, every loop is closed, and sample points fall inside a result exactly when
+// they fall inside the operands as the operation says. Seeded and reproducible.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+#include "orx/geom/tolerance.h"
+#include "shapes.h"
+
+using namespace orx_test;
+
+namespace {
+
+constexpr int kPolylineCases = 300;
+constexpr int kRegionCases = 150;
+constexpr int kSamplesPerCase = 24;
+// Sample points closer than this to an operand's boundary are skipped.
+constexpr double kBoundaryMargin = 1e-3;
+
+class ShapeMaker {
+public:
+    explicit ShapeMaker(unsigned seed) : m_engine(seed) {}
+
+    double uniform(double lo, double hi) {
+        return std::uniform_real_distribution<double>(lo, hi)(m_engine);
+    }
+    int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(m_engine); }
+
+    // Overlapping circles, rounded rectangles, rotated squares and shapes whose arcs cross
+    // the others' arcs, all counter-clockwise, near the origin.
+    COrxVertexArray outline() {
+        COrxPoint3d const c(uniform(-2, 2), uniform(-2, 2), 0);
+        switch (pick(4)) {
+            case 0:
+                return circle(c, uniform(0.8, 3));
+            case 1: {
+                double const w = uniform(1.5, 5), h = uniform(1.5, 5);
+                return roundedRectangle(c.x - w / 2, c.y - h / 2, c.x + w / 2, c.y + h / 2,
+                                        uniform(0.1, 0.7));
+            }
+            case 2:
+                return rotatedSquare(c, uniform(0.7, 2.5), uniform(0, ORX::kHalfPi));
+            default:
+                return bulgedTriangle(c);
+        }
+    }
+
+    // A region: an outline with up to two circular holes well inside it.
+    Region withHoles() {
+        COrxPoint3d const c(uniform(-2, 2), uniform(-2, 2), 0);
+        double const h = uniform(2, 3.5);
+        Region r = region({rectangle(c.x - h, c.y - h, c.x + h, c.y + h)});
+        if (pick(2) == 0) {
+            r[0] = circle(c, h * 1.2);
+        }
+        int const holes = pick(3);
+        for (int k = 0; k < holes; ++k) {
+            double const side = k == 0 ? -1 : 1;  // one hole on each side of the centre
+            COrxPoint3d const hc(c.x + side * h * 0.45, c.y + uniform(-0.3, 0.3) * h, 0);
+            r.append(circle(hc, uniform(0.15, 0.35) * h));
+        }
+        return r;
+    }
+
+private:
+    // A triangle whose edges bulge outwards.
+    COrxVertexArray bulgedTriangle(COrxPoint3d const& c) {
+        double const r = uniform(1, 3), turn = uniform(0, ORX::kTwoPi);
+        COrxVertexArray vl;
+        for (int k = 0; k < 3; ++k) {
+            COrxPoint3d const p = ORX::polar(c, turn + k * ORX::kTwoPi / 3, r);
+            COrxPoint3d const q = ORX::polar(c, turn + (k + 1) * ORX::kTwoPi / 3, r);
+            vl.append(COrxVertex(p, q, uniform(0.05, 0.5)));
+        }
+        return vl;
+    }
+
+    std::mt19937 m_engine;
+};
+
+bool nearBoundary(COrxVertexArray const& vl, COrxPoint3d const& p) {
+    COrxPoint3dTol wide(kBoundaryMargin);
+    return vl.isPoint(p);
+}
+
+bool nearBoundary(Region const& r, COrxPoint3d const& p) {
+    for (unsigned long k = 0; k < r.len(); ++k) {
+        if (nearBoundary(r[static_cast<int>(k)], p)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void expectLoopsClosed(COrxVertexArray const& vl) {
+    Region const loops = ORX::g_vl_vll(vl);
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        EXPECT_TRUE(loops[static_cast<int>(k)].isClosed()) << "loop " << k;
+    }
+}
+
+void expectLoopsClosed(RegionList const& list) {
+    for (unsigned long r = 0; r < list.len(); ++r) {
+        for (unsigned long k = 0; k < list[static_cast<int>(r)].len(); ++k) {
+            EXPECT_TRUE(list[static_cast<int>(r)][static_cast<int>(k)].isClosed());
+        }
+    }
+}
+
+double relativeTol(double a, double b) {
+    return 1e-6 * std::max({1.0, std::fabs(a), std::fabs(b)});
+}
+
+}  // namespace
+
+TEST(BooleanPropertyTest, PolylineOperationsAddUpAndAgreeWithTheOperands) {
+    ShapeMaker make(7u);
+    for (int n = 0; n < kPolylineCases; ++n) {
+        COrxVertexArray const a = make.outline();
+        COrxVertexArray const b = make.outline();
+        SCOPED_TRACE(testing::Message() << "case " << n);
+        COrxVertexArray const u = ORX::g_vl_bool(a, b, COrxVertexArray::boolUnion);
+        COrxVertexArray const d = ORX::g_vl_bool(a, b, COrxVertexArray::boolDiff);
+        COrxVertexArray const s = ORX::g_vl_bool(a, b, COrxVertexArray::boolSect);
+        double const areaA = area(a), areaB = area(b), areaS = area(s);
+        EXPECT_NEAR(area(u), areaA + areaB - areaS, relativeTol(areaA, areaB));
+        EXPECT_NEAR(area(d), areaA - areaS, relativeTol(areaA, areaB));
+        expectLoopsClosed(u);
+        expectLoopsClosed(d);
+        expectLoopsClosed(s);
+        for (int k = 0; k < kSamplesPerCase; ++k) {
+            COrxPoint3d const p(make.uniform(-6, 6), make.uniform(-6, 6), 0);
+            if (nearBoundary(a, p) || nearBoundary(b, p)) {
+                continue;
+            }
+            bool const inA = ORX::g_vl_pt_inside(a, p, false);
+            bool const inB = ORX::g_vl_pt_inside(b, p, false);
+            EXPECT_EQ(insideLoops(u, p), inA || inB);
+            EXPECT_EQ(insideLoops(d, p), inA && !inB);
+            EXPECT_EQ(insideLoops(s, p), inA && inB);
+        }
+    }
+}
+
+TEST(BooleanPropertyTest, RegionOperationsAddUpAndAgreeWithTheOperands) {
+    ShapeMaker make(11u);
+    for (int n = 0; n < kRegionCases; ++n) {
+        Region const a = make.withHoles();
+        Region const b = make.withHoles();
+        SCOPED_TRACE(testing::Message() << "case " << n);
+        RegionList u, d, s;
+        ORX::g_region_union(a, b, u);
+        ORX::g_region_diff(a, b, d);
+        bool const overlap = ORX::g_region_sect(a, b, s);
+        double const areaA = area(a), areaB = area(b), areaS = overlap ? area(s) : 0.0;
+        EXPECT_NEAR(area(u), areaA + areaB - areaS, relativeTol(areaA, areaB));
+        EXPECT_NEAR(area(d), areaA - areaS, relativeTol(areaA, areaB));
+        expectLoopsClosed(u);
+        expectLoopsClosed(d);
+        expectLoopsClosed(s);
+        for (int k = 0; k < kSamplesPerCase; ++k) {
+            COrxPoint3d const p(make.uniform(-7, 7), make.uniform(-7, 7), 0);
+            if (nearBoundary(a, p) || nearBoundary(b, p)) {
+                continue;
+            }
+            bool const inA = ORX::g_vll_pt_inside(a, p) == 1;
+            bool const inB = ORX::g_vll_pt_inside(b, p) == 1;
+            EXPECT_EQ(insideAny(u, p), inA || inB);
+            EXPECT_EQ(insideAny(d, p), inA && !inB);
+            EXPECT_EQ(overlap && insideAny(s, p), inA && inB);
+        }
+    }
+}
+
+TEST(BooleanPropertyTest, ResultsDoNotDependOnTheOperandsStartingPoint) {
+    ShapeMaker make(23u);
+    for (int n = 0; n < 50; ++n) {
+        COrxVertexArray const a = make.outline();
+        COrxVertexArray const b = make.outline();
+        COrxVertexArray rolled;  // the same outline, starting at its second segment
+        for (int k = 1; k <= a.len(); ++k) {
+            rolled.append(a[k % a.len()]);
+        }
+        for (int op = 0; op < 3; ++op) {
+            auto const o = static_cast<COrxVertexArray::boolOper>(op);
+            EXPECT_NEAR(area(ORX::g_vl_bool(a, b, o)), area(ORX::g_vl_bool(rolled, b, o)), 1e-9)
+                << "case " << n << " op " << op;
+        }
+    }
+}
