@@ -13,6 +13,7 @@
 #ifndef ORX_SERVICES_SERVICES_H
 #define ORX_SERVICES_SERVICES_H
 
+#include "orx/services/date_time.h"
 #include "orx/services/diagnostics.h"
 #include "orx/services/error_handler.h"
 #include "orx/services/files.h"
