@@ -18,6 +18,7 @@
 #include "orx/services/error_handler.h"
 #include "orx/services/files.h"
 #include "orx/services/handles.h"
+#include "orx/services/perf_timer.h"
 #include "orx/services/threads.h"
 #include "orx/services/timer.h"
 #include "orx/services/version.h"
