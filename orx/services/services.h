@@ -19,6 +19,7 @@
 #include "orx/services/files.h"
 #include "orx/services/handles.h"
 #include "orx/services/perf_timer.h"
+#include "orx/services/process.h"
 #include "orx/services/threads.h"
 #include "orx/services/timer.h"
 #include "orx/services/version.h"
