@@ -15,6 +15,7 @@
 #include "orx/services/diagnostics.h"
 #include "orx/services/error_handler.h"
 #include "orx/services/handles.h"
+#include "orx/services/registry.h"
 #include "orx/services/threads.h"
 #include "orx/services/timer.h"
 #include "orx/services/version.h"
