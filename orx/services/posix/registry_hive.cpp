@@ -165,11 +165,17 @@ long RegistryHive::configure() {
     if (sqliteExecute(m_db, "PRAGMA foreign_keys=ON") != SQLITE_OK) {
         return kErrorRegistryIoFailed;
     }
-    SqliteStatement version(m_db, "PRAGMA user_version");
-    if (version.step() != SQLITE_ROW) {
-        return kErrorRegistryIoFailed;  // not a database
+    std::int64_t version = -1;
+    {
+        // Finished before the schema is created: a statement still open would hold a read
+        // snapshot, and a write lock cannot be waited for from behind an outdated one.
+        SqliteStatement query(m_db, "PRAGMA user_version");
+        if (query.step() != SQLITE_ROW) {
+            return kErrorRegistryIoFailed;  // not a database
+        }
+        version = query.integer(0);
     }
-    if (version.integer(0) == kSchemaVersion) {
+    if (version == kSchemaVersion) {
         return kErrorSuccess;
     }
     return m_readOnly ? kErrorRegistryIoFailed : createSchema();
