@@ -12,6 +12,7 @@
 #ifndef ORX_SERVICES_SERVICES_H
 #define ORX_SERVICES_SERVICES_H
 
+#include "orx/services/com.h"
 #include "orx/services/diagnostics.h"
 #include "orx/services/error_handler.h"
 #include "orx/services/handles.h"

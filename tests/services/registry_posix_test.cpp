@@ -1,10 +1,6 @@
 // What only the Linux registry has: its folders, and several processes sharing a hive, one
 // of them killed while it writes.
-#include <signal.h>
-#include <spawn.h>
 #include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -15,9 +11,8 @@
 #include <vector>
 
 #include "orx/services/registry.h"
+#include "process_test_support.h"
 #include "registry_test_support.h"
-
-extern char** environ;
 
 namespace {
 
@@ -30,7 +25,7 @@ constexpr int kShareMilliseconds = 3000;
 constexpr int kKillTrials = 5;
 constexpr int kWriteBeforeKillMs = 300;
 
-// A running orx_registry_worker (built beside this test) whose output is collected.
+// A running orx_registry_worker whose output is collected.
 class Worker {
 public:
     explicit Worker(std::vector<std::string> arguments) {
@@ -38,21 +33,8 @@ public:
         if (pipe(out) != 0) {
             return;
         }
-        std::string const program =
-            (fs::read_symlink("/proc/self/exe").parent_path() / "orx_registry_worker").string();
-        std::vector<char*> argv{const_cast<char*>(program.c_str())};
-        for (std::string& argument : arguments) {
-            argv.push_back(argument.data());
-        }
-        argv.push_back(nullptr);
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
-        posix_spawn_file_actions_addclose(&actions, out[0]);
-        if (posix_spawn(&m_pid, program.c_str(), &actions, nullptr, argv.data(), environ) != 0) {
-            m_pid = -1;
-        }
-        posix_spawn_file_actions_destroy(&actions);
+        arguments.insert(arguments.begin(), orxtest::programBeside("orx_registry_worker"));
+        m_pid = orxtest::spawnProgram(arguments, out[1]);
         close(out[1]);
         m_output = out[0];
     }
@@ -63,16 +45,10 @@ public:
     bool started() const { return m_pid > 0; }
     void kill() const { ::kill(m_pid, SIGKILL); }
 
-    // Waits for the end; the exit status (128 + signal when killed) and everything printed.
+    // Waits for the end; the exit status and everything printed.
     int finish(std::string& output) const {
-        char buffer[4096];
-        ssize_t got = 0;
-        while ((got = read(m_output, buffer, sizeof buffer)) > 0) {
-            output.append(buffer, static_cast<std::size_t>(got));
-        }
-        int status = 0;
-        waitpid(m_pid, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+        output = orxtest::readAll(m_output);
+        return orxtest::waitForExit(m_pid);
     }
 
 private:
