@@ -127,8 +127,23 @@ std::shared_ptr<RegistryHive> RegistryHive::open(std::string const& file, bool c
 }
 
 RegistryHive::RegistryHive(sqlite3* db, std::string file, bool readOnly)
-    : m_db(db), m_file(std::move(file)), m_readOnly(readOnly) {
+    : m_db(db), m_file(std::move(file)), m_readOnly(readOnly), m_process(getpid()) {
     identify(m_file, m_device, m_inode);
+}
+
+long RegistryHive::useInThisProcess() {
+    if (getpid() == m_process) {
+        return kErrorSuccess;
+    }
+    sqlite3* db = nullptr;
+    int const flags = m_readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    if (sqlite3_open_v2(m_file.c_str(), &db, flags, nullptr) != SQLITE_OK) {
+        sqlite3_close(db);
+        return kErrorRegistryIoFailed;
+    }
+    m_db = db;
+    m_process = getpid();
+    return configure();
 }
 
 bool RegistryHive::identify(std::string const& file, std::uint64_t& device, std::uint64_t& inode) {

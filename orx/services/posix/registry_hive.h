@@ -9,6 +9,7 @@
 #define ORX_SERVICES_POSIX_REGISTRY_HIVE_H
 
 #include <sqlite3.h>
+#include <sys/types.h>
 
 #include <cstdint>
 #include <memory>
@@ -47,6 +48,10 @@ public:
 
     // True while `file` is still the database this hive opened (not deleted or replaced).
     bool isAt(std::string const& file) const;
+    // Called before each use: a process made by fork() must not use the connection it
+    // inherited, so it opens its own and abandons the inherited one (closing it could
+    // disturb the parent's locks).
+    long useInThisProcess();
 
     long findKey(RegistryKeyId from, std::vector<RegistryName> const& path, RegistryKeyId& key);
     long createKey(RegistryKeyId from, std::vector<RegistryName> const& path, RegistryKeyId& key);
@@ -75,6 +80,7 @@ private:
     std::uint64_t m_device = 0;
     std::uint64_t m_inode = 0;
     bool m_readOnly;
+    pid_t m_process;
 };
 
 }  // namespace ORX::internal

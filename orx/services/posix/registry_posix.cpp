@@ -91,7 +91,7 @@ public:
                 return kErrorInvalidHandle;
             }
             key = *found->second;
-            return kErrorSuccess;
+            return key.hive->useInThisProcess();
         }
         long error = kErrorSuccess;
         std::shared_ptr<RegistryHive>& hive = m_hives[static_cast<int>(kind)];
@@ -104,7 +104,7 @@ public:
             hive = std::move(opened);
         }
         key = OpenKey{hive, RegistryHive::kRootKey, true, 0};
-        return kErrorSuccess;
+        return hive->useInThisProcess();
     }
 
     HKEY add(OpenKey const& key) {
