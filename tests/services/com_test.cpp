@@ -37,11 +37,10 @@ int expected(int code, wchar_t const* text) {
 
 // A class id in registry form that no other test uses.
 COrxString uniqueClassId() {
-    COrxString const unique = orxtest::uniqueName(L"");
+    static int counter = 0;
+    auto const now = static_cast<unsigned long long>(Clock::now().time_since_epoch().count());
     COrxString id;
-    id.format(L"{0DE0%04X-0000-4000-8000-%012llX}", unique.len(),
-              static_cast<unsigned long long>(std::hash<std::wstring>()(std::wstring(unique))) &
-                  0xFFFFFFFFFFFFull);
+    id.format(L"{0DE0%04X-0000-4000-8000-%012llX}", ++counter & 0xFFFF, now & 0xFFFFFFFFFFFFull);
     return id;
 }
 

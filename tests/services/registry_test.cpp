@@ -72,10 +72,7 @@ TEST_F(RegistryTest, InitRecordsTheCurrentVersionAndRegistersTheApplication) {
     EXPECT_FALSE(ORX::regInit(nullptr));
     EXPECT_FALSE(ORX::regInit(L""));
     ASSERT_TRUE(ORX::regInit(L"InitApp"));
-    COrxString curVer;
-    EXPECT_TRUE(ORX::regRead(Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"InitApp"), false)),
-                             L"CurVer", curVer));
-    EXPECT_EQ(curVer, L"2017.0");
+    EXPECT_EQ(textAt(HKEY_CURRENT_USER, path(L"InitApp"), L"CurVer"), L"2017.0");
     EXPECT_NE(Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"InitApp\\2017.0"), false)).get(),
               nullptr);
     COrxArrayTempl<COrxString> keys;
@@ -84,9 +81,7 @@ TEST_F(RegistryTest, InitRecordsTheCurrentVersionAndRegistersTheApplication) {
 
     ORX::curVerSet(L"2018.1");
     ASSERT_TRUE(ORX::regInit(L"InitApp"));
-    EXPECT_TRUE(ORX::regRead(Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"InitApp"), false)),
-                             L"CurVer", curVer));
-    EXPECT_EQ(curVer, L"2018.1");
+    EXPECT_EQ(textAt(HKEY_CURRENT_USER, path(L"InitApp"), L"CurVer"), L"2018.1");
 }
 
 TEST_F(RegistryTest, SettingsRoundTripAndReadsCheckTheType) {
@@ -146,27 +141,19 @@ TEST_F(RegistryTest, ReadsFallBackToTheMachineHiveAndWritesStayWithTheUser) {
     EXPECT_EQ(text, L"user");
     EXPECT_TRUE(ORX::regRead(L"App", L"Sub\\Number", number));  // the user's is a text
     EXPECT_EQ(number, 1ul);
-    EXPECT_TRUE(
-        ORX::regRead(Key(ORX::regOpenKey(HKEY_LOCAL_MACHINE, path(L"App\\2017.0\\Sub"), false)),
-                     L"Shared", text));
-    EXPECT_EQ(text, L"machine");
+    EXPECT_EQ(textAt(HKEY_LOCAL_MACHINE, path(L"App\\2017.0\\Sub"), L"Shared"), L"machine");
 }
 
 TEST_F(RegistryTest, ValuePathNamesSubKeysOfTheSettingsKey) {
     ASSERT_TRUE(ORX::regWrite(L"App", L"a\\b\\name", L"deep", false));
+    EXPECT_EQ(textAt(HKEY_CURRENT_USER, path(L"App\\2017.0\\a\\b"), L"name"), L"deep");
+    EXPECT_TRUE(textAt(HKEY_CURRENT_USER, path(L"App\\2017.0"), L"a\\b\\name").isNull());
     COrxString text;
-    EXPECT_TRUE(ORX::regRead(
-        Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"App\\2017.0\\a\\b"), false)), L"name", text));
-    EXPECT_EQ(text, L"deep");
-    EXPECT_FALSE(ORX::regRead(Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"App\\2017.0"), false)),
-                              L"a\\b\\name", text));
     EXPECT_TRUE(ORX::regRead(L"App", L"A\\B\\NAME", text));
 
     // A trailing "\" names the sub-key's default value.
     ASSERT_TRUE(ORX::regWrite(L"App", L"a\\", L"default", false));
-    EXPECT_TRUE(ORX::regRead(
-        Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"App\\2017.0\\a"), false)), nullptr, text));
-    EXPECT_EQ(text, L"default");
+    EXPECT_EQ(textAt(HKEY_CURRENT_USER, path(L"App\\2017.0\\a"), nullptr), L"default");
 }
 
 TEST_F(RegistryTest, NullTextEmptyListAndDelValueDeleteTheValue) {
@@ -267,8 +254,7 @@ TEST_F(RegistryTest, CopyTreeOverwritesAtTheTopLevelOnly) {
         EXPECT_EQ(text, overwrite ? L"src" : L"dst");
         EXPECT_TRUE(ORX::regRead(dst, L"New", number));
         EXPECT_EQ(number, 1ul);
-        EXPECT_TRUE(ORX::regRead(Key(ORX::regOpenKey(dst, L"Sub", false)), L"Inner", text));
-        EXPECT_EQ(text, L"dst");  // below the top level nothing is overwritten
+        EXPECT_EQ(textAt(dst, L"Sub", L"Inner"), L"dst");  // only the top level is overwritten
         EXPECT_TRUE(ORX::regRead(Key(ORX::regOpenKey(dst, L"Sub\\Deeper", false)), L"Leaf", list));
         EXPECT_EQ(list, listOf({L"src"}));
     }

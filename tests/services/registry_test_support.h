@@ -144,6 +144,13 @@ protected:
         ORX::regBasePathSet(L"");
     }
 
+    // The text value `name` of root\keyPath; the null string when it cannot be read.
+    static COrxString textAt(HKEY root, wchar_t const* keyPath, wchar_t const* name) {
+        Key const key(ORX::regOpenKey(root, keyPath, false));
+        COrxString text;
+        return key.get() != nullptr && ORX::regRead(key, name, text) ? text : COrxString();
+    }
+
     COrxString const& base() const { return m_base; }
     COrxString path(wchar_t const* sub) const { return m_base + L"\\" + sub; }
 

@@ -5,6 +5,7 @@
 // file. Handles are checked against the open records, so a closed or made-up handle is
 // refused as Windows refuses it, never followed. One lock serialises the calls: the hive
 // connections are shared by the threads of the process.
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <mutex>
