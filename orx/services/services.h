@@ -13,6 +13,7 @@
 #ifndef ORX_SERVICES_SERVICES_H
 #define ORX_SERVICES_SERVICES_H
 
+#include "orx/services/com.h"
 #include "orx/services/date_time.h"
 #include "orx/services/diagnostics.h"
 #include "orx/services/error_handler.h"
@@ -20,6 +21,7 @@
 #include "orx/services/handles.h"
 #include "orx/services/perf_timer.h"
 #include "orx/services/process.h"
+#include "orx/services/registry.h"
 #include "orx/services/threads.h"
 #include "orx/services/timer.h"
 #include "orx/services/version.h"
