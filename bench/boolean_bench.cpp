@@ -49,12 +49,17 @@ void PolylineUnion(benchmark::State& state) {
     }
     state.SetComplexityN(n);
 }
-BENCHMARK(PolylineUnion)->RangeMultiplier(4)->Range(16, 1024)->Complexity()->Unit(benchmark::kMillisecond);
+BENCHMARK(PolylineUnion)
+    ->RangeMultiplier(4)
+    ->Range(16, 1024)
+    ->Complexity()
+    ->Unit(benchmark::kMillisecond);
 
 void RegionDifference(benchmark::State& state) {
     int const n = static_cast<int>(state.range(0));
     COrxArrayTempl<COrxVertexArray> plate, cut;
-    plate.append(polygonCircle(COrxPoint3d(), 10, n)).append(polygonCircle(COrxPoint3d(), 3, n / 4 + 3));
+    plate.append(polygonCircle(COrxPoint3d(), 10, n))
+        .append(polygonCircle(COrxPoint3d(), 3, n / 4 + 3));
     cut.append(wavyOutline(COrxPoint3d(5, 0, 0), 6, n));
     for (auto _ : state) {
         COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> out;
@@ -63,7 +68,11 @@ void RegionDifference(benchmark::State& state) {
     }
     state.SetComplexityN(n);
 }
-BENCHMARK(RegionDifference)->RangeMultiplier(4)->Range(16, 1024)->Complexity()->Unit(benchmark::kMillisecond);
+BENCHMARK(RegionDifference)
+    ->RangeMultiplier(4)
+    ->Range(16, 1024)
+    ->Complexity()
+    ->Unit(benchmark::kMillisecond);
 
 void PointInPolyline(benchmark::State& state) {
     int const n = static_cast<int>(state.range(0));
