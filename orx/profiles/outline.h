@@ -68,8 +68,18 @@
 // 804  2   oval centred on the origin, see below
 // 901  6   polygon through coordinate pairs, see below
 //
-// Code 801 as built: when d2 > d0 its far end is a round head wider than the slot (a
-// keyhole); when d0 > d1 the construction swaps the two before it turns the result.
+// Some of the constructions above cross or overlap themselves for some dimensions; they are
+// kept as built, since callers draw these codes with exactly these corners:
+// - 5 with d3 > d0 and d1 = d2: the ridge lies on the line of the top, which then runs back
+//   over itself;
+// - 6 with a top flat wider than the base (2 d3 > d0, or -d3 > d0), or exactly as wide
+//   while the ridge is lower than the sides (d1 < d2);
+// - 13 with the sides above the crown (d2 > d1) and the arc sagging below the base;
+// - 17 with r = d1 - d2 > d0/2: the two quarter circles overlap;
+// - 18 with a rise d3 so large that the two arcs bulge into each other.
+// Code 801 never crosses itself for positive dimensions (the swap keeps the slot at least
+// as long as wide); with d2 > d0 its far end is a round head wider than the slot (a
+// keyhole), and with d0 = d1 its two straight sides have length zero.
 //
 // The shapes below complete the table in the same conventions. Each is a closed,
 // counter-clockwise outline that does not touch itself for valid dimensions.
