@@ -74,9 +74,11 @@
 //   over itself;
 // - 6 with a top flat wider than the base (2 d3 > d0, or -d3 > d0), or exactly as wide
 //   while the ridge is lower than the sides (d1 < d2);
-// - 13 with the sides above the crown (d2 > d1) and the arc sagging below the base;
+// - 13 with the sides more than half the width above the crown (d2 - d1 > d0/2): the arc
+//   then spans more than a half circle and swings out across the sides;
 // - 17 with r = d1 - d2 > d0/2: the two quarter circles overlap;
-// - 18 with a rise d3 so large that the two arcs bulge into each other.
+// - 18 with a rise d3 so large (near the chord length) that an arc swings out across a side
+//   or into the other arc.
 // Code 801 never crosses itself for positive dimensions (the swap keeps the slot at least
 // as long as wide); with d2 > d0 its far end is a round head wider than the slot (a
 // keyhole), and with d0 = d1 its two straight sides have length zero.

@@ -11,6 +11,10 @@
 #ifndef ORX_PROFILES_PROFILES_H
 #define ORX_PROFILES_PROFILES_H
 
+#include "orx/profiles/bar_axis.h"
+#include "orx/profiles/helix.h"
+#include "orx/profiles/line_parm.h"
+#include "orx/profiles/mesh.h"
 #include "orx/profiles/outline.h"
 
 #endif  // ORX_PROFILES_PROFILES_H
