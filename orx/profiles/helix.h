@@ -17,6 +17,8 @@
 // written so that it stays exact as k goes to 0, where it becomes
 // |t1 - t0| sqrt(r^2 + c^2): one turn of a cylinder is sqrt((2 pi r)^2 + h^2).
 //
+// A helix of no turns is its start point: length 0, and its turn height is not read.
+//
 // The bool `bounded` of the queries limits them to the helix between start (t = 0) and end
 // (t = T); without it the same formula is followed beyond both ends. Queries on a helix
 // without an axis direction, or with numbers that are not finite, fail: false, NaN lengths,

@@ -102,8 +102,11 @@ HelixGeometry helixGeometry(COrxPoint3d const& startPoint, COrxPoint3d const& ax
     g.yAxis = g.zAxis * g.xAxis;
     g.sense = counterClockwise ? 1.0 : -1.0;
     g.totalAngle = kTwoPi * turns;
-    g.radiusRate = g.totalAngle != 0 ? (topRadius - g.baseRadius) / g.totalAngle : 0.0;
-    g.riseRate = turnHeight / kTwoPi;
+    // Without turns the helix is its start point, whatever the turn height says (a bar with
+    // no part of a turn hands on height / 0).
+    bool const turning = g.totalAngle != 0;
+    g.radiusRate = turning ? (topRadius - g.baseRadius) / g.totalAngle : 0.0;
+    g.riseRate = turning ? turnHeight / kTwoPi : 0.0;
     g.valid = g.zAxis != COrxVector3d::kNull && startPoint.isValid() && g.origin.isValid() &&
               std::isfinite(g.baseRadius) && std::isfinite(g.totalAngle) &&
               std::isfinite(g.radiusRate) && std::isfinite(g.riseRate);

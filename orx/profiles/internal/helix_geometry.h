@@ -25,7 +25,7 @@ struct HelixGeometry {
     double sense;          // s
     double baseRadius;     // r0
     double radiusRate;     // k: (top radius - r0) / T, 0 when T = 0
-    double riseRate;       // c: turn height / (2 pi)
+    double riseRate;       // c: turn height / (2 pi), 0 when T = 0
     double totalAngle;     // T
 };
 
