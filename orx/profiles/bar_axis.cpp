@@ -7,8 +7,8 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/lines.h"
 #include "orx/plane_geometry/internal/finite.h"
+#include "orx/plane_geometry/lines.h"
 #include "orx/profiles/internal/helix_geometry.h"
 
 namespace {
@@ -34,8 +34,8 @@ COrxBarAxis::COrxBarAxis()
 COrxBarAxis::COrxBarAxis(COrxBarAxis const& other) = default;
 
 COrxBarAxis::COrxBarAxis(COrxPoint3d const& start, COrxPoint3d const& end,
-                         COrxPoint3d const& axisPoint, COrxVector3d const& axisVector,
-                         int turns, int orientation, double twist) {
+                         COrxPoint3d const& axisPoint, COrxVector3d const& axisVector, int turns,
+                         int orientation, double twist) {
     set(start, end, axisPoint, axisVector, turns, orientation, twist);
 }
 
@@ -255,9 +255,9 @@ COrxBarAxis COrxBarAxis::getTransformedCopy(double const (*m)[4]) const {
 }
 
 bool COrxBarAxis::operator==(COrxBarAxis const& other) const {
-    return m_start == other.m_start && m_end == other.m_end &&
-           m_axisPoint == other.m_axisPoint && m_axisVector == other.m_axisVector &&
-           m_turns == other.m_turns && m_orientation == other.m_orientation &&
+    return m_start == other.m_start && m_end == other.m_end && m_axisPoint == other.m_axisPoint &&
+           m_axisVector == other.m_axisVector && m_turns == other.m_turns &&
+           m_orientation == other.m_orientation &&
            std::fabs(m_twist - other.m_twist) <= COrxVector3d::tol;
 }
 

@@ -36,9 +36,8 @@ public:
     ~COrxBarAxis() override;
 
     // Stores the fields, then validate().
-    COrxBarAxis& set(COrxPoint3d const& start, COrxPoint3d const& end,
-                     COrxPoint3d const& axisPoint, COrxVector3d const& axisVector, int turns,
-                     int orientation, double twist);
+    COrxBarAxis& set(COrxPoint3d const& start, COrxPoint3d const& end, COrxPoint3d const& axisPoint,
+                     COrxVector3d const& axisVector, int turns, int orientation, double twist);
     // Nothing for a straight bar. Otherwise normalises the axis vector and, when the end
     // point's foot on the axis line lies before the start point's (the axis points from end
     // to start), reverses it, so that the axis always points from start to end.

@@ -5,16 +5,15 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/lines.h"
 #include "orx/plane_geometry/internal/finite.h"
+#include "orx/plane_geometry/lines.h"
 #include "orx/profiles/internal/helix_geometry.h"
 
 namespace {
 
 ORX::internal::HelixGeometry geometryOf(COrxHelix const& h) {
     return ORX::internal::helixGeometry(h.startPoint(), h.axisPoint(), h.axisVector(),
-                                        h.topRadius(), h.turns(), h.turnHeight(),
-                                        h.orientation());
+                                        h.topRadius(), h.turns(), h.turnHeight(), h.orientation());
 }
 
 }  // namespace
@@ -221,9 +220,8 @@ COrxString COrxHelix::dump() const {
     text.format(
         L"helix start (%g, %g, %g) axis point (%g, %g, %g) axis (%g, %g, %g) "
         L"radius %g to %g, %g turns of %g, %s",
-        m_startPoint.x, m_startPoint.y, m_startPoint.z, m_axisPoint.x, m_axisPoint.y,
-        m_axisPoint.z, m_axisVector.x, m_axisVector.y, m_axisVector.z, baseRadius(),
-        m_topRadius, m_turns, m_turnHeight,
-        m_orientation ? L"counter-clockwise" : L"clockwise");
+        m_startPoint.x, m_startPoint.y, m_startPoint.z, m_axisPoint.x, m_axisPoint.y, m_axisPoint.z,
+        m_axisVector.x, m_axisVector.y, m_axisVector.z, baseRadius(), m_topRadius, m_turns,
+        m_turnHeight, m_orientation ? L"counter-clockwise" : L"clockwise");
     return text;
 }

@@ -56,9 +56,8 @@ public:
     ~COrxHelix() override;
 
     // Stores the fields, then validate().
-    COrxHelix& set(double topRadius, double turns, double turnHeight,
-                   COrxPoint3d const& axisPoint, COrxPoint3d const& startPoint,
-                   COrxVector3d const& axisVector, bool orientation);
+    COrxHelix& set(double topRadius, double turns, double turnHeight, COrxPoint3d const& axisPoint,
+                   COrxPoint3d const& startPoint, COrxVector3d const& axisVector, bool orientation);
     // Normalises the axis vector; when the end point's foot on the axis lies before the start
     // point's foot (the axis points from end to start), reverses the axis vector and negates
     // the turn height. The winding sense is then read about the reversed axis.

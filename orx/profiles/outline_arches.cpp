@@ -77,8 +77,7 @@ COrxVertexArray basketHandleArch(COrxVector3d const& offset, Dims const& dims) {
     outline.append(segment(xy(0, 0), xy(span, 0), 0.0))
         .append(segment(xy(span, 0), xy(span, side), 0.0))
         .append(segment(xy(span, side), arch.rightTangent + toLocal, arch.springBulge))
-        .append(segment(arch.rightTangent + toLocal, arch.leftTangent + toLocal,
-                        arch.crownBulge))
+        .append(segment(arch.rightTangent + toLocal, arch.leftTangent + toLocal, arch.crownBulge))
         .append(segment(arch.leftTangent + toLocal, xy(0, side), arch.springBulge))
         .append(segment(xy(0, side), xy(0, 0), 0.0));
     return placed(outline.norm(false), offset);

@@ -39,8 +39,7 @@ bool separateSidesClear(COrxPoint3d const& p, COrxPoint3d const& q, COrxPoint3d 
     if (inters(p, q, r, s, true, crossing)) {
         return false;
     }
-    return !g_line_pt(p, q, r) && !g_line_pt(p, q, s) && !g_line_pt(r, s, p) &&
-           !g_line_pt(r, s, q);
+    return !g_line_pt(p, q, r) && !g_line_pt(p, q, s) && !g_line_pt(r, s, p) && !g_line_pt(r, s, q);
 }
 
 // No two sides of the closed polygon meet anywhere but at the corner they share. Every pair

@@ -80,9 +80,8 @@ COrxVertexArray flatTopHexagon(COrxVector3d const& offset, Dims const& dims) {
     }
     double const d0 = dim(dims, 0), d1 = dim(dims, 1), d2 = dim(dims, 2);
     double const a = flatInset(d0, dim(dims, 3));
-    return placed(
-        polygon({xy(0, 0), xy(d0, 0), xy(d0, d2), xy(d0 - a, d1), xy(a, d1), xy(0, d2)}),
-        offset);
+    return placed(polygon({xy(0, 0), xy(d0, 0), xy(d0, d2), xy(d0 - a, d1), xy(a, d1), xy(0, d2)}),
+                  offset);
 }
 
 COrxVertexArray symmetricTrapezoid(COrxVector3d const& offset, Dims const& dims) {
@@ -124,8 +123,7 @@ COrxVertexArray house(COrxVector3d const& offset, Dims const& dims) {
         return COrxVertexArray();
     }
     double const d0 = dim(dims, 0), d1 = dim(dims, 1), d2 = dim(dims, 2);
-    return placed(polygon({xy(0, 0), xy(d0, 0), xy(d0, d2), xy(d0 / 2, d1), xy(0, d2)}),
-                  offset);
+    return placed(polygon({xy(0, 0), xy(d0, 0), xy(d0, d2), xy(d0 / 2, d1), xy(0, d2)}), offset);
 }
 
 COrxVertexArray triangle(COrxVector3d const& offset, Dims const& dims) {
@@ -147,9 +145,9 @@ COrxVertexArray parallelogram(COrxVector3d const& offset, Dims const& dims) {
     double const baseLength = d0 >= 0 ? d0 : -(d0 / std::cos(a));
     COrxPoint3d const origin = xy(0, 0);
     COrxPoint3d const baseEnd = polar(origin, a, baseLength);
-    return placed(polygon({origin, baseEnd, polar(baseEnd, kHalfPi, d1),
-                           polar(origin, kHalfPi, d1)}),
-                  offset);
+    return placed(
+        polygon({origin, baseEnd, polar(baseEnd, kHalfPi, d1), polar(origin, kHalfPi, d1)}),
+        offset);
 }
 
 // For a negative d0 the half-diagonal is d0 / 2 itself, negative: the same square, entered
@@ -187,8 +185,7 @@ COrxVertexArray notchedRectangle(COrxVector3d const& offset, Dims const& dims) {
         return COrxVertexArray();
     }
     COrxVertexArray outline = polygon({xy(0, 0), xy(w, 0), xy(w, h - notchH),
-                                       xy(w - notchW, h - notchH), xy(w - notchW, h),
-                                       xy(0, h)});
+                                       xy(w - notchW, h - notchH), xy(w - notchW, h), xy(0, h)});
     return placed(outline.norm(false), offset);
 }
 

@@ -97,8 +97,7 @@ COrxVertexArray slot(COrxVector3d const& offset, Dims const& dims) {
         return placed(halfCircles(xy(d0 / 2, d0 / 2), xy(-d0 / 2, d0 / 2)), offset);
     }
     double const length = std::max(d0, d1), r = std::min(d0, d1) / 2;
-    COrxVertexArray outline =
-        polygon({xy(-r, r), xy(r, r), xy(r, length - r), xy(-r, length - r)});
+    COrxVertexArray outline = polygon({xy(-r, r), xy(r, r), xy(r, length - r), xy(-r, length - r)});
     outline[0].set(outline[0].startPoint(), outline[0].endPoint(), 1.0);
     outline[2].set(outline[2].startPoint(), outline[2].endPoint(), 1.0);
     if (d0 > d1) {

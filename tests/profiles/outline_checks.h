@@ -18,7 +18,7 @@ inline COrxPoint3d pt(double x, double y) {
     return COrxPoint3d(x, y, 0);
 }
 
-inline COrxArrayTempl<double> dims(std::initializer_list<double> values) {
+inline COrxArrayTempl<double> dims(std::vector<double> const& values) {
     COrxArrayTempl<double> d;
     for (double v : values) {
         d.append(v);
@@ -26,7 +26,7 @@ inline COrxArrayTempl<double> dims(std::initializer_list<double> values) {
     return d;
 }
 
-inline COrxVertexArray outline(int code, std::initializer_list<double> values,
+inline COrxVertexArray outline(int code, std::vector<double> const& values,
                                COrxVector3d const& offset = COrxVector3d()) {
     return ORX::g_outline(code, offset, dims(values));
 }
@@ -72,33 +72,27 @@ inline bool selfIntersects(COrxVertexArray const& vl) {
     return false;
 }
 
-// One expected segment: where it starts and its bulge (it ends where the next one starts).
-struct Corner {
-    COrxPoint3d at;
-    double bulge;
-};
-
-// vl runs through the corners in this order, each segment with the given bulge (compared
-// within 1e-12), the last one back to the first corner, all moved by offset.
+// vl runs through the corners given as (x, y, bulge) triples in this order, each segment
+// with its corner's bulge (within 1e-12) and ending at the next corner, the last one back at
+// the first, all moved by offset.
 inline ::testing::AssertionResult runsThrough(COrxVertexArray const& vl,
-                                             std::vector<Corner> const& corners,
-                                             COrxVector3d const& offset = COrxVector3d()) {
-    int const n = static_cast<int>(corners.size());
+                                              std::vector<double> const& xyb,
+                                              COrxVector3d const& offset = COrxVector3d()) {
+    int const n = static_cast<int>(xyb.size() / 3);
     if (vl.len() != n) {
         return ::testing::AssertionFailure() << vl.len() << " segments, expected " << n;
     }
-    Corner const* c = corners.data();
+    auto corner = [&](int k) { return COrxPoint3d(xyb[3 * k], xyb[3 * k + 1], 0) + offset; };
     for (int k = 0; k < n; ++k) {
         COrxVertex const& v = vl[k];
-        COrxPoint3d const start = c[k].at + offset, end = c[(k + 1) % n].at + offset;
+        COrxPoint3d const start = corner(k), end = corner((k + 1) % n);
+        double const bulge = xyb[3 * k + 2];
         if (v.startPoint() != start || v.endPoint() != end ||
-            !(std::fabs(v.bulge() - c[k].bulge) <= 1e-12)) {
+            !(std::fabs(v.bulge() - bulge) <= 1e-12)) {
             return ::testing::AssertionFailure()
-                   << "segment " << k << ": (" << v.startPoint().x << ", " << v.startPoint().y
-                   << ", " << v.startPoint().z << ") -> (" << v.endPoint().x << ", "
-                   << v.endPoint().y << ") bulge " << v.bulge() << ", expected (" << start.x
-                   << ", " << start.y << ", " << start.z << ") -> (" << end.x << ", " << end.y
-                   << ") bulge " << c[k].bulge;
+                   << "segment " << k << " starts at (" << v.startPoint().x << ", "
+                   << v.startPoint().y << ") with bulge " << v.bulge() << ", expected (" << start.x
+                   << ", " << start.y << ") with " << bulge;
         }
     }
     return ::testing::AssertionSuccess();

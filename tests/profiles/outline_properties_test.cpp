@@ -22,14 +22,6 @@ struct Typical {
     COrxPoint3d lo, hi;  // the extents the dimensions imply
 };
 
-COrxArrayTempl<double> toDims(std::vector<double> const& values) {
-    COrxArrayTempl<double> d;
-    for (double v : values) {
-        d.append(v);
-    }
-    return d;
-}
-
 // One set of ordinary dimensions for every code of the table, in table order.
 std::vector<Typical> const& typicalOutlines() {
     double const c30 = std::cos(ORX::kPi / 6), r34 = 1 / c30;
@@ -75,18 +67,21 @@ std::vector<Typical> const& typicalOutlines() {
     return table;
 }
 
-TEST(OutlinePropertiesTest, EveryCodeIsCoveredInTableOrder) {
+// The typical outlines list the codes in the table's own order.
+TEST(OutlinePropertiesTest, TableHoldsEveryCodeInItsOrder) {
     std::vector<Typical> const& table = typicalOutlines();
     ASSERT_EQ(table.size(), static_cast<size_t>(ORX::kOutlineTableSize));
     for (int i = 0; i < ORX::kOutlineTableSize; ++i) {
         EXPECT_EQ(static_cast<unsigned int>(table[i].code), ORX::g_outline_code(i));
     }
+    EXPECT_EQ(ORX::g_outline_code(-1), 0u);
+    EXPECT_EQ(ORX::g_outline_code(ORX::kOutlineTableSize), 0u);
 }
 
 TEST(OutlinePropertiesTest, ClosedPositiveSimpleAndInsideItsBox) {
     for (Typical const& t : typicalOutlines()) {
         SCOPED_TRACE(t.code);
-        COrxVertexArray const vl = ORX::g_outline(t.code, COrxVector3d(), toDims(t.dims));
+        COrxVertexArray const vl = ORX::g_outline(t.code, COrxVector3d(), orx_test::dims(t.dims));
         ASSERT_FALSE(vl.isEmpty());
         EXPECT_TRUE(vl.isClosed());
         EXPECT_GT(ORX::g_vl_area(vl), 0);
@@ -104,9 +99,9 @@ TEST(OutlinePropertiesTest, ClosedPositiveSimpleAndInsideItsBox) {
 TEST(OutlinePropertiesTest, OffsetIsAPlainTranslation) {
     COrxVector3d const offset(-123.25, 1e6, 7.5);
     for (Typical const& t : typicalOutlines()) {
-        COrxVertexArray moved = ORX::g_outline(t.code, COrxVector3d(), toDims(t.dims));
+        COrxVertexArray moved = ORX::g_outline(t.code, COrxVector3d(), orx_test::dims(t.dims));
         moved.move(offset);
-        EXPECT_EQ(ORX::g_outline(t.code, offset, toDims(t.dims)), moved) << t.code;
+        EXPECT_EQ(ORX::g_outline(t.code, offset, orx_test::dims(t.dims)), moved) << t.code;
     }
 }
 
@@ -119,7 +114,8 @@ TEST(OutlinePropertiesTest, HugeAndTinyDimensionsKeepTheShape) {
             for (int k = 0; k < static_cast<int>(scaled.size()); ++k) {
                 scaled[k] *= k == kept ? 1 : scale;
             }
-            COrxVertexArray const vl = ORX::g_outline(t.code, COrxVector3d(), toDims(scaled));
+            COrxVertexArray const vl =
+                ORX::g_outline(t.code, COrxVector3d(), orx_test::dims(scaled));
             ASSERT_FALSE(vl.isEmpty()) << t.code << " at " << scale;
             EXPECT_GT(ORX::g_vl_area(vl), 0) << t.code << " at " << scale;
         }
@@ -151,7 +147,8 @@ TEST(OutlinePropertiesTest, ChosenShapesStaySimpleForRandomValidDimensions) {
             {804, {w, h}},
         };
         for (auto const& c : cases) {
-            COrxVertexArray const vl = ORX::g_outline(c.first, COrxVector3d(), toDims(c.second));
+            COrxVertexArray const vl =
+                ORX::g_outline(c.first, COrxVector3d(), orx_test::dims(c.second));
             ASSERT_FALSE(vl.isEmpty()) << c.first << " round " << round;
             EXPECT_TRUE(vl.isClosed()) << c.first << " round " << round;
             EXPECT_GT(ORX::g_vl_area(vl), 0) << c.first << " round " << round;

@@ -54,8 +54,8 @@ double pieceLength(double dt, double u0, double u1, double a) {
     return dt * (chordTerm + a * q / 2 * asinhRatio);
 }
 
-void consider(HelixGeometry const& g, COrxPoint3d const& p, bool bounded, double t,
-              double& best, double& bestDistance) {
+void consider(HelixGeometry const& g, COrxPoint3d const& p, bool bounded, double t, double& best,
+              double& bestDistance) {
     if (!std::isfinite(t) || (bounded && !inRange(g, t))) {
         return;
     }
@@ -97,8 +97,8 @@ HelixGeometry helixGeometry(COrxPoint3d const& startPoint, COrxPoint3d const& ax
     g.origin = g_lotp(axisPoint, axisPoint + g.zAxis, startPoint);
     COrxVector3d const radial = startPoint - g.origin;
     g.baseRadius = radial.abs();
-    g.xAxis = g.baseRadius > COrxPoint3d::tol ? radial * (1 / g.baseRadius)
-                                               : perpendicularTo(g.zAxis);
+    g.xAxis =
+        g.baseRadius > COrxPoint3d::tol ? radial * (1 / g.baseRadius) : perpendicularTo(g.zAxis);
     g.yAxis = g.zAxis * g.xAxis;
     g.sense = counterClockwise ? 1.0 : -1.0;
     g.totalAngle = kTwoPi * turns;
@@ -132,8 +132,8 @@ COrxPoint3d pointAt(HelixGeometry const& g, double t) {
 COrxVector3d tangentAt(HelixGeometry const& g, double t) {
     double const r = radiusAt(g, t), k = g.radiusRate;
     double const c = std::cos(t), s = std::sin(t);
-    COrxVector3d const d = g.xAxis * (k * c - r * s) + g.yAxis * (g.sense * (k * s + r * c)) +
-                           g.zAxis * g.riseRate;
+    COrxVector3d const d =
+        g.xAxis * (k * c - r * s) + g.yAxis * (g.sense * (k * s + r * c)) + g.zAxis * g.riseRate;
     double const length = d.abs();
     if (!(length > 0) || !std::isfinite(length)) {
         return COrxVector3d::kNull;
@@ -223,8 +223,7 @@ bool angleOfPoint(HelixGeometry const& g, COrxPoint3d const& p, bool bounded, do
         considerTurns(g, p, bounded, phi, est, best, bestDistance);
         consider(g, p, bounded, est, best, bestDistance);  // on the axis phi says nothing
     } else if (g.radiusRate != 0) {
-        considerTurns(g, p, bounded, phi, (rho - g.baseRadius) / g.radiusRate, best,
-                      bestDistance);
+        considerTurns(g, p, bounded, phi, (rho - g.baseRadius) / g.radiusRate, best, bestDistance);
         considerTurns(g, p, bounded, phi + kPi, (-rho - g.baseRadius) / g.radiusRate, best,
                       bestDistance);
     } else {

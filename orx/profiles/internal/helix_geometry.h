@@ -17,16 +17,16 @@ namespace ORX {
 namespace internal {
 
 struct HelixGeometry {
-    bool valid;            // finite numbers and an axis of some length
-    COrxPoint3d origin;    // O
-    COrxVector3d xAxis;    // X (the plane rule's x axis when the start lies on the axis)
-    COrxVector3d yAxis;    // Y
-    COrxVector3d zAxis;    // Z
-    double sense;          // s
-    double baseRadius;     // r0
-    double radiusRate;     // k: (top radius - r0) / T, 0 when T = 0
-    double riseRate;       // c: turn height / (2 pi), 0 when T = 0
-    double totalAngle;     // T
+    bool valid;          // finite numbers and an axis of some length
+    COrxPoint3d origin;  // O
+    COrxVector3d xAxis;  // X (the plane rule's x axis when the start lies on the axis)
+    COrxVector3d yAxis;  // Y
+    COrxVector3d zAxis;  // Z
+    double sense;        // s
+    double baseRadius;   // r0
+    double radiusRate;   // k: (top radius - r0) / T, 0 when T = 0
+    double riseRate;     // c: turn height / (2 pi), 0 when T = 0
+    double totalAngle;   // T
 };
 
 // The frame through startPoint about the line (axisPoint, axisVector); turns and turnHeight

@@ -61,23 +61,23 @@ struct BasketArch {
 BasketArch basketArch(double a, double f);
 
 // Codes 1 to 12, 21, 28, 30, 31, 34 (outline_polygons.cpp).
-COrxVertexArray rectangle(COrxVector3d const& offset, Dims const& dims);            // 1
-COrxVertexArray rightTrapezoid(COrxVector3d const& offset, Dims const& dims);       // 2
-COrxVertexArray taper(COrxVector3d const& offset, Dims const& dims);                // 3
-COrxVertexArray quadrilateral(COrxVector3d const& offset, Dims const& dims);        // 4
-COrxVertexArray gable(COrxVector3d const& offset, Dims const& dims);                // 5
-COrxVertexArray flatTopHexagon(COrxVector3d const& offset, Dims const& dims);       // 6
-COrxVertexArray symmetricTrapezoid(COrxVector3d const& offset, Dims const& dims);   // 7
-COrxVertexArray trapezoid(COrxVector3d const& offset, Dims const& dims);            // 8
-COrxVertexArray rightTriangle(COrxVector3d const& offset, Dims const& dims);        // 9
-COrxVertexArray isoscelesTriangle(COrxVector3d const& offset, Dims const& dims);    // 10
-COrxVertexArray house(COrxVector3d const& offset, Dims const& dims);                // 11
-COrxVertexArray triangle(COrxVector3d const& offset, Dims const& dims);             // 12
-COrxVertexArray parallelogram(COrxVector3d const& offset, Dims const& dims);        // 21
-COrxVertexArray diamond(COrxVector3d const& offset, Dims const& dims);              // 28
-COrxVertexArray regularPolygon(COrxVector3d const& offset, Dims const& dims);       // 30
-COrxVertexArray notchedRectangle(COrxVector3d const& offset, Dims const& dims);     // 31
-COrxVertexArray hexagon(COrxVector3d const& offset, Dims const& dims);              // 34
+COrxVertexArray rectangle(COrxVector3d const& offset, Dims const& dims);           // 1
+COrxVertexArray rightTrapezoid(COrxVector3d const& offset, Dims const& dims);      // 2
+COrxVertexArray taper(COrxVector3d const& offset, Dims const& dims);               // 3
+COrxVertexArray quadrilateral(COrxVector3d const& offset, Dims const& dims);       // 4
+COrxVertexArray gable(COrxVector3d const& offset, Dims const& dims);               // 5
+COrxVertexArray flatTopHexagon(COrxVector3d const& offset, Dims const& dims);      // 6
+COrxVertexArray symmetricTrapezoid(COrxVector3d const& offset, Dims const& dims);  // 7
+COrxVertexArray trapezoid(COrxVector3d const& offset, Dims const& dims);           // 8
+COrxVertexArray rightTriangle(COrxVector3d const& offset, Dims const& dims);       // 9
+COrxVertexArray isoscelesTriangle(COrxVector3d const& offset, Dims const& dims);   // 10
+COrxVertexArray house(COrxVector3d const& offset, Dims const& dims);               // 11
+COrxVertexArray triangle(COrxVector3d const& offset, Dims const& dims);            // 12
+COrxVertexArray parallelogram(COrxVector3d const& offset, Dims const& dims);       // 21
+COrxVertexArray diamond(COrxVector3d const& offset, Dims const& dims);             // 28
+COrxVertexArray regularPolygon(COrxVector3d const& offset, Dims const& dims);      // 30
+COrxVertexArray notchedRectangle(COrxVector3d const& offset, Dims const& dims);    // 31
+COrxVertexArray hexagon(COrxVector3d const& offset, Dims const& dims);             // 34
 
 // Codes 13, 14, 15, 17, 18, 19 (outline_arches.cpp).
 COrxVertexArray segmentalArch(COrxVector3d const& offset, Dims const& dims);        // 13
@@ -97,15 +97,15 @@ COrxVertexArray centredSlot(COrxVector3d const& offset, Dims const& dims);      
 COrxVertexArray oval(COrxVector3d const& offset, Dims const& dims);                 // 804
 
 // Codes 24, 224, 324, 27, 227, 327 (outline_corners.cpp).
-COrxVertexArray chamferedRectangle(COrxVector3d const& offset, Dims const& dims);   // 24
-COrxVertexArray chamferedTop(COrxVector3d const& offset, Dims const& dims);         // 224
-COrxVertexArray chamferedCorner(COrxVector3d const& offset, Dims const& dims);      // 324
-COrxVertexArray roundedRectangle(COrxVector3d const& offset, Dims const& dims);     // 27
-COrxVertexArray roundedTop(COrxVector3d const& offset, Dims const& dims);           // 227
-COrxVertexArray roundedCorner(COrxVector3d const& offset, Dims const& dims);        // 327
+COrxVertexArray chamferedRectangle(COrxVector3d const& offset, Dims const& dims);  // 24
+COrxVertexArray chamferedTop(COrxVector3d const& offset, Dims const& dims);        // 224
+COrxVertexArray chamferedCorner(COrxVector3d const& offset, Dims const& dims);     // 324
+COrxVertexArray roundedRectangle(COrxVector3d const& offset, Dims const& dims);    // 27
+COrxVertexArray roundedTop(COrxVector3d const& offset, Dims const& dims);          // 227
+COrxVertexArray roundedCorner(COrxVector3d const& offset, Dims const& dims);       // 327
 
 // Code 901 (outline_coordinates.cpp).
-COrxVertexArray coordinatePolygon(COrxVector3d const& offset, Dims const& dims);    // 901
+COrxVertexArray coordinatePolygon(COrxVector3d const& offset, Dims const& dims);  // 901
 
 }  // namespace internal
 }  // namespace ORX
