@@ -18,7 +18,7 @@ constexpr double kNoHelixValue = -1.0;
 
 // A double brought to an int: truncated into the int range, 0 for NaN.
 int clampedInt(double v) {
-    if (!(v == v)) {
+    if (std::isnan(v)) {
         return 0;
     }
     return static_cast<int>(std::min(std::max(v, double(INT_MIN)), double(INT_MAX)));

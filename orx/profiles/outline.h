@@ -43,7 +43,9 @@
 // 17   3   rectangle d0 x d1 with quarter-circle upper corners of radius r = d1 - d2:
 //          (0,0) (d0,0) (d0,d2) bulge tan(pi/8) (d0-r,d1) (r,d1) bulge tan(pi/8) (0,d2); norm
 // 18   3   pointed arch, width d0, crown d1, sides d2, optional arc rise d3:
-//          (0,0) (d0,0) (d0,d2) arc (d0/2,d1) arc (0,d2)
+//          (0,0) (d0,0) (d0,d2) arc (d0/2,d1) arc (0,d2); with d3 > 0 each arc's bulge is
+//          d3 over half its chord, else the arcs have the radius g_tang_radius(min(f, d0/2),
+//          max(f, d0/2)), f = d1 - d2; empty when that gives no arc (d1 = d2, no d3)
 // 19   2   circular segment, chord d0, rise d1 (d1 = 0 divides by zero: pass a positive
 //          rise): (0,0) (d0,0) arc [(d0/2,d1) arc when d1 > d0/2] back to (0,0)
 // 21   3   parallelogram with vertical sides d1, base at d2 degrees, base length d0 (d0 >= 0)
@@ -62,7 +64,9 @@
 //          does (d0 > d1)
 // 34   0   regular hexagon about the origin, across flats d0, corners at 30, 90, ... 330 deg
 // 801  3   slot of width d0 and length d1 with one half-circle end and one end on the circle
-//          of diameter max(d2, d0); turned a quarter clockwise when d0 > d1
+//          of diameter D = max(d2, d0): (d0/2,0) bulge 1 (-d0/2,0) (-d0/2,e) arc (d0/2,e),
+//          the arc counter-clockwise about (0, D/2 - d1 + d0/2) (the far end lies d1 below
+//          the top); d0 and d1 swapped and the result turned a quarter clockwise when d0 > d1
 // 802  1   circle about the origin, diameter d0 (d0 >= 0) or radius |d0| (d0 < 0)
 // 803  2   slot centred on the origin, see below
 // 804  2   oval centred on the origin, see below

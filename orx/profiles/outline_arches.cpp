@@ -97,7 +97,7 @@ COrxVertexArray roundedTopRectangle(COrxVector3d const& offset, Dims const& dims
     corners.append(xy(0, d2));
     COrxVertexArray outline = polygon(corners);
     if (r > 0) {
-        double const bulge = std::tan(kQuarterArcQuarter);
+        double const bulge = std::tan(kQuarterCircleBulgeAngle);
         outline[2].set(outline[2].startPoint(), outline[2].endPoint(), bulge);
         outline[4].set(outline[4].startPoint(), outline[4].endPoint(), bulge);
     }

@@ -46,7 +46,7 @@ COrxVertexArray cutRectangle(double w, double h, double legX, double legY, CutPa
                                              xy(legX, 0)};
     auto entry = [&](int k) { return p.cuts[k] == Cut::sharp ? corners[k] : entries[k]; };
     auto exit = [&](int k) { return p.cuts[k] == Cut::sharp ? corners[k] : exits[k]; };
-    double const roundBulge = std::tan(kQuarterArcQuarter);
+    double const roundBulge = std::tan(kQuarterCircleBulgeAngle);
     COrxVertexArray outline;
     COrxPoint3d at = exit(kBottomLeft);
     for (int k = 0; k < kCornerCount; ++k) {

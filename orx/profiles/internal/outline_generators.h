@@ -25,9 +25,9 @@ using OutlineGenerator = COrxVertexArray (*)(COrxVector3d const& offset, Dims co
 constexpr double kDegToRad = 3.141592653589793 / 180.0;
 // Codes 33, 803 and 804 give a circle when their two extents differ by less than this.
 constexpr double kRoundExtentTol = 1e-05;
-// A quarter of the included angle of a quarter circle (pi / 8): its tangent is the bulge of
+// pi / 8, a quarter of a quarter circle's included angle: its tangent is the bulge of the
 // rounded corners.
-constexpr double kQuarterArcQuarter = 0.39269908169872414;
+constexpr double kQuarterCircleBulgeAngle = 0.39269908169872414;
 // Code 18 without an arc rise reads this as its fourth dimension.
 constexpr double kPointedArchNoRise = -1.0;
 // Code 30 refuses polygons with more corners (a whole number of that size is a typing error
