@@ -1,11 +1,7 @@
 // COrxMesh: faces as index lists over one de-duplicated list of points.
 #include <algorithm>
 
-#include "orx/foundation/array_templ_impl.h"
 #include "orx/profiles/mesh.h"
-
-// The mesh's face lists, exported from the library (defined before any use in this file).
-ORX_INSTANTIATE(COrxArrayTempl<COrxArrayTempl<short>>);
 
 namespace {
 

@@ -33,7 +33,8 @@ namespace ORX {
 constexpr int kMaxMeshPoints = 32767;
 }  // namespace ORX
 
-// The face lists; declared before the class, whose member instantiates the type.
+// The face lists (defined in mesh_instances.cpp); declared before the class, whose member
+// instantiates the type.
 ORX_EXTERN_TEMPLATE(COrxArrayTempl<COrxArrayTempl<short>>);
 
 class ORX_API COrxMesh : public COrxObj {
