@@ -20,7 +20,7 @@ COrxVector3d const kOffset(10, -5, 2);
 double const kQuarter = std::tan(ORX::kPi / 8);
 double const kSqrt3 = std::sqrt(3.0);
 
-struct SpecifiedCase {
+struct FixedCase {
     char const* name;
     int code;
     std::vector<double> dims;
@@ -34,14 +34,14 @@ double minorBulge(COrxPoint3d const& a, COrxPoint3d const& b, double r) {
     return (r - std::sqrt(r * r - h * h)) / h;
 }
 
-std::vector<SpecifiedCase> const& specifiedCases() {
+std::vector<FixedCase> const& fixedCases() {
     double const r18 = 5.0;  // g_tang_radius(2, 4): rise 4 over half width 2
     double const r19 = 13.0 / 6;
     double const h21 = std::sqrt(0.5) * 2;
     double const c21 = std::cos(30 * ORX::kPi / 180), s21 = std::sin(30 * ORX::kPi / 180);
     double const y801 = 2 - 10 + 1 + kSqrt3;  // head centre -7, plus s = sqrt(3)
     double const r34 = 1 / std::cos(ORX::kPi / 6);
-    static std::vector<SpecifiedCase> const cases = {
+    static std::vector<FixedCase> const cases = {
         {"rectangle", 1, {2, 3}, {0, 0, 0, 2, 0, 0, 2, 3, 0, 0, 3, 0}},
         {"trapezoid_cut_right", 2, {4, 3, -1}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 3, 3, 0}},
         {"trapezoid_cut_left", 2, {4, 3, 1}, {0, 0, 0, 4, 0, 0, 1, 3, 0, 0, 3, 0}},
@@ -127,8 +127,8 @@ std::vector<SpecifiedCase> const& specifiedCases() {
     return cases;
 }
 
-TEST(OutlineSpecifiedTest, EveryCornerAndBulgeMovedByTheOffset) {
-    for (SpecifiedCase const& c : specifiedCases()) {
+TEST(OutlineFixedCodesTest, EveryCornerAndBulgeMovedByTheOffset) {
+    for (FixedCase const& c : fixedCases()) {
         SCOPED_TRACE(c.name);
         COrxVertexArray const vl = ORX::g_outline(c.code, kOffset, orx_test::dims(c.dims));
         EXPECT_TRUE(runsThrough(vl, c.corners, kOffset));
@@ -137,7 +137,7 @@ TEST(OutlineSpecifiedTest, EveryCornerAndBulgeMovedByTheOffset) {
     }
 }
 
-TEST(OutlineSpecifiedTest, ArchArcsHaveTheirDocumentedCentres) {
+TEST(OutlineFixedCodesTest, ArchArcsHaveTheirDocumentedCentres) {
     // 18 without a rise: the arcs stand vertical on the sides (centre on the springing line)
     // when the rise reaches the half width; below it both arcs lie on one circle through the
     // springing points and the crown.
@@ -161,14 +161,14 @@ TEST(OutlineSpecifiedTest, ArchArcsHaveTheirDocumentedCentres) {
     EXPECT_NEAR(hi.y, 1, 1e-12);
 }
 
-TEST(OutlineSpecifiedTest, UnknownCodesGiveTheEmptyOutline) {
+TEST(OutlineFixedCodesTest, UnknownCodesGiveTheEmptyOutline) {
     for (int code : {0, 16, 20, 25, 26, 29, 32, 35, 100, 225, 800, 805, 900, 902, -1, -901,
                      std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         EXPECT_TRUE(outline(code, {4, 3, 2, 1, 1, 1}).isEmpty()) << code;
     }
 }
 
-TEST(OutlineSpecifiedTest, FewerDimensionsThanTheMinimumGiveTheEmptyOutline) {
+TEST(OutlineFixedCodesTest, FewerDimensionsThanTheMinimumGiveTheEmptyOutline) {
     struct Minimum {
         int code;
         int count;
@@ -188,7 +188,7 @@ TEST(OutlineSpecifiedTest, FewerDimensionsThanTheMinimumGiveTheEmptyOutline) {
     EXPECT_TRUE(outline(1, {}).isEmpty());
 }
 
-TEST(OutlineSpecifiedTest, SignTestsOfCodesTwoAndFour) {
+TEST(OutlineFixedCodesTest, SignTestsOfCodesTwoAndFour) {
     for (int code : {2, 4}) {
         EXPECT_TRUE(outline(code, {0, 3, 1, 1}).isEmpty()) << code;
         EXPECT_TRUE(outline(code, {4, 0, 1, 1}).isEmpty()) << code;
@@ -200,19 +200,19 @@ TEST(OutlineSpecifiedTest, SignTestsOfCodesTwoAndFour) {
     EXPECT_TRUE(runsThrough(outline(1, {-2, 3}), {0, 0, 0, -2, 0, 0, -2, 3, 0, 0, 3, 0}));
 }
 
-TEST(OutlineSpecifiedTest, PointedArchWithoutRiseCannotBeBuilt) {
+TEST(OutlineFixedCodesTest, PointedArchWithoutRiseCannotBeBuilt) {
     EXPECT_TRUE(outline(18, {4, 2, 2}).isEmpty());  // crown at side height: no radius
 }
 
 // Callers must pass a positive rise: no guard is made, the arc's bulge is not a number.
-TEST(OutlineSpecifiedTest, CircularSegmentWithoutRiseIsNotGuarded) {
+TEST(OutlineFixedCodesTest, CircularSegmentWithoutRiseIsNotGuarded) {
     COrxVertexArray const vl = outline(19, {4, 0});
     ASSERT_EQ(vl.len(), 2);
     EXPECT_EQ(vl[0].bulge(), 0.0);
     EXPECT_TRUE(std::isnan(vl[1].bulge()));
 }
 
-TEST(OutlineSpecifiedTest, DimensionsOrOffsetNotFiniteGiveTheEmptyOutline) {
+TEST(OutlineFixedCodesTest, DimensionsOrOffsetNotFiniteGiveTheEmptyOutline) {
     double const inf = std::numeric_limits<double>::infinity();
     double const nan = std::numeric_limits<double>::quiet_NaN();
     for (int i = 0; i < ORX::kOutlineTableSize; ++i) {
