@@ -107,6 +107,9 @@ private:
     bool allocate(unsigned long n);
     void resetSlots(std::uint32_t from, std::uint32_t to);
     bool holds(T const& x) const;
+    // The stable bubble sort with early exit both sort() forms run.
+    template <class Greater>
+    void bubbleSort(Greater greater);
     void storeAt(std::uint32_t i, T const& x);
     static T& mutableDummy();
     static T const& constDummy();

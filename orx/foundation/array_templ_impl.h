@@ -407,11 +407,12 @@ void COrxArrayTempl<T>::swap(unsigned long i, unsigned long j) {
 }
 
 template <class T>
-COrxArrayTempl<T>& COrxArrayTempl<T>::sort() {
+template <class Greater>
+void COrxArrayTempl<T>::bubbleSort(Greater greater) {
     for (std::uint32_t pass = 0; pass + 1 < m_length; ++pass) {
         bool exchanged = false;
         for (std::uint32_t j = 1; j < m_length - pass; ++j) {
-            if (ORX::internal::elementGreater(m_data[j - 1], m_data[j])) {
+            if (greater(m_data[j - 1], m_data[j])) {
                 ORX::internal::swapBytes(m_data[j - 1], m_data[j]);
                 exchanged = true;
             }
@@ -420,23 +421,17 @@ COrxArrayTempl<T>& COrxArrayTempl<T>::sort() {
             break;
         }
     }
+}
+
+template <class T>
+COrxArrayTempl<T>& COrxArrayTempl<T>::sort() {
+    bubbleSort([](T const& a, T const& b) { return ORX::internal::elementGreater(a, b); });
     return *this;
 }
 
 template <class T>
 COrxArrayTempl<T>& COrxArrayTempl<T>::sort(int (*compare)(void const*, void const*)) {
-    for (std::uint32_t pass = 0; pass + 1 < m_length; ++pass) {
-        bool exchanged = false;
-        for (std::uint32_t j = 1; j < m_length - pass; ++j) {
-            if (compare(&m_data[j - 1], &m_data[j]) > 0) {
-                ORX::internal::swapBytes(m_data[j - 1], m_data[j]);
-                exchanged = true;
-            }
-        }
-        if (!exchanged) {
-            break;
-        }
-    }
+    bubbleSort([compare](T const& a, T const& b) { return compare(&a, &b) > 0; });
     return *this;
 }
 

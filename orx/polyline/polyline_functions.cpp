@@ -1,4 +1,5 @@
 #include "orx/polyline/polyline_functions.h"
+#include "orx/polyline/internal/orient_list.h"
 
 #include <cmath>
 
@@ -67,13 +68,7 @@ bool g_vl_orient(COrxVertexArray const& vl, COrxVector3d const& normal) {
 
 COrxArrayTempl<COrxVertexArray>& setOrient(COrxArrayTempl<COrxVertexArray>& list,
                                            COrxVector3d const& normal) {
-    for (unsigned long k = 0; k < list.len(); ++k) {
-        COrxVertexArray& vl = list[static_cast<int>(k)];
-        if (vl.isClosed() && !g_vl_orient(vl, normal)) {
-            vl.revert();
-        }
-    }
-    return list;
+    return internal::orientClosed(list, normal);
 }
 
 double g_vl_area(COrxVertexArray const& vl) {

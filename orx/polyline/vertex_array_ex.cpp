@@ -1,5 +1,6 @@
 #include "orx/polyline/vertex_array_ex.h"
 
+#include "orx/polyline/internal/orient_list.h"
 #include "orx/polyline/polyline_functions.h"
 
 COrxVertexArrayEx::COrxVertexArrayEx() : m_attribute(0), m_text(L"") {}
@@ -74,13 +75,7 @@ namespace ORX {
 
 COrxArrayTempl<COrxVertexArrayEx>& setOrient(COrxArrayTempl<COrxVertexArrayEx>& list,
                                              COrxVector3d const& normal) {
-    for (unsigned long k = 0; k < list.len(); ++k) {
-        COrxVertexArrayEx& vl = list[static_cast<int>(k)];
-        if (vl.isClosed() && !g_vl_orient(vl, normal)) {
-            vl.revert();
-        }
-    }
-    return list;
+    return internal::orientClosed(list, normal);
 }
 
 }  // namespace ORX
