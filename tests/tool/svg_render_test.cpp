@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <regex>
+#include <sstream>
 
 #include "orx/polyline/polyline_functions.h"
 #include "png_image.h"
@@ -31,15 +31,26 @@ struct Coverage {
     double centroidY = 0.0;  // drawing coordinates, y up
 };
 
+// The value of the first attribute `name` after position `from`.
+std::string attribute(std::string const& svg, std::size_t from, std::string const& name) {
+    std::size_t start = svg.find(" " + name + "=\"", from);
+    if (start == std::string::npos) {
+        return "0";
+    }
+    start += name.size() + 3;
+    return svg.substr(start, svg.find('"', start) - start);
+}
+
 // Renders `svgFile` to PNG and measures the covered pixels in drawing units, using the view
 // box and pixel size of the drawing's nested <svg>.
 Coverage measure(Scratch const& scratch, std::string const& svgFile) {
     std::string svg = scratch.read(svgFile);
-    std::smatch m;
-    std::regex drawing(R"re(class="drawing" x="0" y="0" width="(\d+)" height="(\d+)" viewBox="(\S+) (\S+) (\S+) (\S+)")re");
-    EXPECT_TRUE(std::regex_search(svg, m, drawing)) << svg.substr(0, 300);
-    double widthPixels = std::stod(m[1]), viewX = std::stod(m[3]), viewY = std::stod(m[4]);
-    double unitsPerPixel = std::stod(m[5]) / widthPixels;
+    std::size_t drawing = svg.find("class=\"drawing\"");
+    EXPECT_NE(drawing, std::string::npos) << svg.substr(0, 300);
+    double widthPixels = std::stod(attribute(svg, drawing, "width"));
+    double viewX = 0.0, viewY = 0.0, viewWidth = 0.0;
+    std::istringstream(attribute(svg, drawing, "viewBox")) >> viewX >> viewY >> viewWidth;
+    double unitsPerPixel = viewWidth / widthPixels;
 
     std::string png = scratch.path("picture.png");
     std::string command = "'" + svgRenderer() + "' -o '" + png + "' '" + scratch.path(svgFile) + "'";

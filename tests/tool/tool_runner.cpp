@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <sstream>
 
 namespace {
@@ -67,14 +66,14 @@ ToolRun Scratch::orx(std::vector<std::string> const& args) const {
 std::string dataFile(std::string const& name) { return std::string(ORX_TOOL_DATA) + "/" + name; }
 
 double regionAreaSum(std::string const& infoOutput) {
-    static std::regex const kRegionLine(R"(^region \d+:.*: area (\S+)$)");
     double sum = 0.0;
     std::istringstream lines(infoOutput);
     std::string line;
-    std::smatch match;
+    std::string const areaMark = ": area ";
     while (std::getline(lines, line)) {
-        if (std::regex_match(line, match, kRegionLine)) {
-            sum += std::stod(match[1]);
+        std::size_t area = line.rfind(areaMark);
+        if (line.rfind("region ", 0) == 0 && area != std::string::npos) {
+            sum += std::stod(line.substr(area + areaMark.size()));
         }
     }
     return sum;

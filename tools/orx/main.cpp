@@ -98,6 +98,9 @@ bool isCommand(CLI::App& app, std::string const& name) {
 int main(int argc, char** argv) {
     CLI::App app{"orx: profile outlines, booleans and regions of bulge polylines"};
     app.require_subcommand(1);
+    // File names may start with '/' (Wine, MSYS shells); CLI11 would take them for options
+    // on Windows. Set before the commands are declared, which inherit it.
+    app.allow_windows_style_options(false);
     Arguments args;
     std::function<int()> run;
     declareCommands(app, args, run);
