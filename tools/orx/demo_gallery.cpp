@@ -50,9 +50,9 @@ void addExtentDimensions(SvgPicture& picture, COrxVertexArray const& shape) {
     if (!shape.extents(lo, hi)) {
         return;
     }
-    picture.addDimension(lo, COrxPoint3d(hi.x, lo.y, 0), shortText(hi.x - lo.x, 6),
+    picture.addDimension(lo, COrxPoint3d(hi.x, lo.y, 0), shortText(hi.x - lo.x, 4),
                          -kDimensionOffsetPixels);
-    picture.addDimension(lo, COrxPoint3d(lo.x, hi.y, 0), shortText(hi.y - lo.y, 6),
+    picture.addDimension(lo, COrxPoint3d(lo.x, hi.y, 0), shortText(hi.y - lo.y, 4),
                          kDimensionOffsetPixels);
 }
 
@@ -99,7 +99,7 @@ void addBooleans(Gallery& gallery) {
             area += regionArea(region);
         }
         std::string title = std::string("bool ") + operation.name +
-                            ": rounded rectangle 200 x 120 (r 30) and circle d 150";
+                            ": rounded rectangle 200 x 120, r 30, and circle, d 150";
         picture.addCaption(title);
         picture.addCaption("result area " + shortText(area, 8));
         std::string file = std::string("bool-") + operation.name + ".svg";
@@ -123,8 +123,8 @@ void addRegionWithHoles(Gallery& gallery) {
         area += regionArea(region);
     }
     addExtentDimensions(picture, plate[0]);
-    std::string title = "region diff: chamfered plate minus four bores, a slotted hole and a "
-                        "corner cut";
+    std::string title = "region diff: chamfered plate, minus four bores, a slotted hole, "
+                        "and a corner cut";
     picture.addCaption(title);
     picture.addCaption(std::to_string(result.size()) + " region, " +
                        std::to_string(result.empty() ? 0 : result[0].len() - 1) +

@@ -20,14 +20,35 @@ constexpr double kBulgeDrawnStraight = 1e-9;
 constexpr double kStrokePixels = 1.5;
 constexpr double kMarkerPixels = 3.0;
 constexpr double kMarginPixels = 16.0;
-constexpr double kDimensionMarginPixels = 64.0;
+constexpr double kDimensionMarginPixels = 80.0;
 constexpr double kLabelPixels = 13.0;
 constexpr double kCaptionLinePixels = 18.0;
 constexpr double kTickPixels = 5.0;
+// Captions wrap at ", " to fit the picture, at least this wide; the width of a character is
+// estimated generously for a sans-serif face.
+constexpr int kMinCaptionPixels = 300;
+constexpr double kCharacterPixels = 7.0;
 // Opacity of region fills, so that overlapping operands stay visible.
 constexpr double kFillOpacity = 0.3;
 
 std::string num(double v) { return shortText(v, kSvgDigits); }
+
+// The caption broken after ", " into lines of at most `width` characters where it can be.
+std::vector<std::string> wrapped(std::string const& caption, std::size_t width) {
+    std::vector<std::string> lines(1);
+    std::size_t start = 0;
+    while (start < caption.size()) {
+        std::size_t comma = caption.find(", ", start);
+        std::size_t end = comma == std::string::npos ? caption.size() : comma + 2;
+        std::string piece = caption.substr(start, end - start);
+        if (!lines.back().empty() && lines.back().size() + piece.size() > width) {
+            lines.push_back({});
+        }
+        lines.back() += piece;
+        start = end;
+    }
+    return lines;
+}
 
 std::string point(COrxPoint3d const& p) { return num(p.x) + " " + num(-p.y); }
 
@@ -204,11 +225,16 @@ std::string SvgPicture::itemSvg(Item const& item, View const& view) const {
                 << point(shifted(b, tick)) << " M " << point(a) << " L " << point(b)
                 << "\" fill=\"none\" stroke=\"" << item.colour << "\" stroke-width=\""
                 << num(0.8 * px) << "\"/>\n";
-            COrxPoint3d label = shifted(COrxPoint3d((a.x + b.x) / 2, (a.y + b.y) / 2, 0.0),
-                                        (d < 0 ? -1.0 : 1.0) * 1.1 * kLabelPixels * px);
+            // Beside a dimension line that stands to the left or right the text runs away
+            // from it; above or below it is centred.
+            double side = d < 0 ? -1.0 : 1.0;
+            bool sideways = std::fabs(nx) > std::fabs(ny);
+            char const* anchor = !sideways ? "middle" : (nx * side < 0 ? "end" : "start");
+            double gap = (sideways ? 0.4 : 1.0) * kLabelPixels * px * side;
+            COrxPoint3d label = shifted(COrxPoint3d((a.x + b.x) / 2, (a.y + b.y) / 2, 0.0), gap);
             out << "<text x=\"" << num(label.x) << "\" y=\"" << num(-label.y)
-                << "\" font-size=\"" << num(kLabelPixels * px)
-                << "\" text-anchor=\"middle\" dominant-baseline=\"middle\" fill=\""
+                << "\" font-family=\"sans-serif\" font-size=\"" << num(kLabelPixels * px)
+                << "\" text-anchor=\"" << anchor << "\" dominant-baseline=\"middle\" fill=\""
                 << item.colour << "\">" << xmlEscaped(item.text) << "</text>\n";
             break;
         }
@@ -218,12 +244,18 @@ std::string SvgPicture::itemSvg(Item const& item, View const& view) const {
 
 std::string SvgPicture::svg() const {
     View view = fitView();
-    double captionHeight = m_captions.empty() ? 0.0 : (m_captions.size() + 0.5) * kCaptionLinePixels;
+    int totalWidth = m_captions.empty() ? view.widthPixels : std::max(view.widthPixels, kMinCaptionPixels);
+    std::vector<std::string> lines;
+    for (std::string const& caption : m_captions) {
+        for (std::string& line : wrapped(caption, static_cast<std::size_t>(totalWidth / kCharacterPixels))) {
+            lines.push_back(std::move(line));
+        }
+    }
+    double captionHeight = lines.empty() ? 0.0 : (lines.size() + 0.5) * kCaptionLinePixels;
     int totalHeight = view.heightPixels + static_cast<int>(std::ceil(captionHeight));
     std::ostringstream out;
-    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << view.widthPixels
-        << "\" height=\"" << totalHeight << "\" viewBox=\"0 0 " << view.widthPixels << " "
-        << totalHeight << "\">\n";
+    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << totalWidth << "\" height=\""
+        << totalHeight << "\" viewBox=\"0 0 " << totalWidth << " " << totalHeight << "\">\n";
     out << "<svg class=\"drawing\" x=\"0\" y=\"0\" width=\"" << view.widthPixels << "\" height=\""
         << view.heightPixels << "\" viewBox=\"" << num(view.x) << " " << num(view.y) << " "
         << num(view.width) << " " << num(view.height) << "\">\n";
@@ -231,10 +263,10 @@ std::string SvgPicture::svg() const {
         out << itemSvg(item, view);
     }
     out << "</svg>\n";
-    for (std::size_t i = 0; i < m_captions.size(); ++i) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
         out << "<text x=\"8\" y=\"" << view.heightPixels + (i + 1) * kCaptionLinePixels
             << "\" font-family=\"sans-serif\" font-size=\"" << kLabelPixels << "\" fill=\"#222\">"
-            << xmlEscaped(m_captions[i]) << "</text>\n";
+            << xmlEscaped(lines[i]) << "</text>\n";
     }
     out << "</svg>\n";
     return out.str();

@@ -46,7 +46,7 @@ public:
     // `offsetPixels` to the left of the direction a -> b.
     void addDimension(COrxPoint3d const& a, COrxPoint3d const& b, std::string const& text,
                       double offsetPixels);
-    // A line of text under the drawing.
+    // A line of text under the drawing, broken after commas where it would not fit.
     void addCaption(std::string const& line);
 
     // The whole SVG document. An empty picture is a small blank one.
