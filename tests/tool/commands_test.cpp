@@ -88,9 +88,10 @@ TEST(OrxDxfTest, AcceptsWindowsLineEndings) {
 // Values that a decimal round trip with too few digits would change.
 TEST(OrxRoundTripTest, DxfAndJsonPreservePointsAndBulgesExactly) {
     Scratch scratch;
-    json original = json::parse(scratch.orx({"convert", dataFile("awkward.json"), "-o", "0.json"}).status == 0
-                                    ? scratch.read("0.json")
-                                    : "null");
+    json original =
+        json::parse(scratch.orx({"convert", dataFile("awkward.json"), "-o", "0.json"}).status == 0
+                        ? scratch.read("0.json")
+                        : "null");
     ASSERT_TRUE(original.is_array());
     ASSERT_EQ(scratch.orx({"convert", "0.json", "-o", "1.dxf"}).status, 0);
     ASSERT_EQ(scratch.orx({"convert", "1.dxf", "-o", "2.json"}).status, 0);
@@ -118,7 +119,9 @@ struct AreaCase {
     double area;                       // of all result regions together
 };
 
-void PrintTo(AreaCase const& c, std::ostream* os) { *os << c.name; }
+void PrintTo(AreaCase const& c, std::ostream* os) {
+    *os << c.name;
+}
 
 class OrxOperationTest : public testing::TestWithParam<AreaCase> {};
 
@@ -162,21 +165,23 @@ INSTANTIATE_TEST_SUITE_P(
         AreaCase{"PlateDiff", {"region", "diff", "plate.json", "cutter.json"}, 30 - kPi},
         AreaCase{"PlateSect", {"region", "sect", "plate.json", "cutter.json"}, 27 - kPi / 2},
         AreaCase{"PlateUnion", {"region", "union", "plate.json", "cutter.json"}, 56 + 30 - kPi},
-        AreaCase{"CutterMinusPlate", {"region", "diff", "cutter.json", "plate.json"},
+        AreaCase{"CutterMinusPlate",
+                 {"region", "diff", "cutter.json", "plate.json"},
                  56 - 30 + (4 + kPi / 2 - 1)}),
     [](testing::TestParamInfo<AreaCase> const& p) { return std::string(p.param.name); });
 
 TEST(OrxRenderTest, DrawsTrueArcsRegionsAndMarkers) {
     Scratch scratch;
-    ToolRun run = scratch.orx({"render", dataFile("plate.json"), dataFile("square.dxf"),
-                               "--markers", "-o", "p.svg"});
+    ToolRun run = scratch.orx(
+        {"render", dataFile("plate.json"), dataFile("square.dxf"), "--markers", "-o", "p.svg"});
     ASSERT_EQ(run.status, 0) << run.err;
     std::string svg = scratch.read("p.svg");
     // plate.json: one region (outer loop and two holes) and one open polyline; square.dxf:
     // one region. Arcs stay arcs: 2 + 1 + 1 in the plate file, 1 in the square.
     auto count = [&svg](std::string const& what) {
         std::size_t n = 0;
-        for (std::size_t at = svg.find(what); at != std::string::npos; at = svg.find(what, at + 1)) {
+        for (std::size_t at = svg.find(what); at != std::string::npos;
+             at = svg.find(what, at + 1)) {
             ++n;
         }
         return n;

@@ -63,7 +63,8 @@ public:
         for (std::size_t symbol = 0; symbol < lengths.size(); ++symbol) {
             if (lengths[symbol] != 0) {
                 m_symbols[static_cast<std::size_t>(
-                    offset[static_cast<std::size_t>(lengths[symbol])]++)] = static_cast<int>(symbol);
+                    offset[static_cast<std::size_t>(lengths[symbol])]++)] =
+                    static_cast<int>(symbol);
             }
         }
     }
@@ -92,8 +93,8 @@ constexpr int kLengthBase[] = {3,  4,  5,  6,  7,  8,  9,  10, 11,  13,  15,  17
                                31, 35, 43, 51, 59, 67, 83, 99, 115, 131, 163, 195, 227, 258};
 constexpr int kLengthExtra[] = {0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1, 1, 2, 2, 2,
                                 2, 3, 3, 3, 3, 4, 4, 4, 4, 5, 5, 5, 5, 0};
-constexpr int kDistanceBase[] = {1,    2,    3,    4,    5,    7,     9,     13,    17,  25,
-                                 33,   49,   65,   97,   129,  193,   257,   385,   513, 769,
+constexpr int kDistanceBase[] = {1,    2,    3,    4,    5,    7,    9,    13,    17,    25,
+                                 33,   49,   65,   97,   129,  193,  257,  385,   513,   769,
                                  1025, 1537, 2049, 3073, 4097, 6145, 8193, 12289, 16385, 24577};
 constexpr int kDistanceExtra[] = {0, 0, 0, 0, 1, 1, 2, 2,  3,  3,  4,  4,  5,  5,  6,
                                   6, 7, 7, 8, 8, 9, 9, 10, 10, 11, 11, 12, 12, 13, 13};
@@ -129,7 +130,8 @@ void inflateBlock(BitReader& in, Bytes& out, Huffman const& literals, Huffman co
 
 void dynamicTables(BitReader& in, std::vector<int>& literalLengths,
                    std::vector<int>& distanceLengths) {
-    static constexpr int kOrder[19] = {16, 17, 18, 0, 8, 7, 9, 6, 10, 5, 11, 4, 12, 3, 13, 2, 14, 1, 15};
+    static constexpr int kOrder[19] = {16, 17, 18, 0, 8,  7, 9,  6, 10, 5,
+                                       11, 4,  12, 3, 13, 2, 14, 1, 15};
     int literalCount = static_cast<int>(in.bits(5)) + 257;
     int distanceCount = static_cast<int>(in.bits(5)) + 1;
     int codeLengthCount = static_cast<int>(in.bits(4)) + 4;
@@ -223,17 +225,32 @@ Bytes unfilter(Bytes const& raw, int width, int height, int channels) {
         std::uint8_t* row = &pixels[y * stride];
         std::uint8_t const* up = y > 0 ? row - stride : nullptr;
         for (std::size_t i = 0; i < stride; ++i) {
-            int a = i >= static_cast<std::size_t>(channels) ? row[i - static_cast<std::size_t>(channels)] : 0;
+            int a = i >= static_cast<std::size_t>(channels)
+                        ? row[i - static_cast<std::size_t>(channels)]
+                        : 0;
             int b = up ? up[i] : 0;
-            int c = up && i >= static_cast<std::size_t>(channels) ? up[i - static_cast<std::size_t>(channels)] : 0;
+            int c = up && i >= static_cast<std::size_t>(channels)
+                        ? up[i - static_cast<std::size_t>(channels)]
+                        : 0;
             int predicted = 0;
             switch (filter) {
-                case 0: predicted = 0; break;
-                case 1: predicted = a; break;
-                case 2: predicted = b; break;
-                case 3: predicted = (a + b) / 2; break;
-                case 4: predicted = paeth(a, b, c); break;
-                default: throw std::runtime_error("bad row filter");
+                case 0:
+                    predicted = 0;
+                    break;
+                case 1:
+                    predicted = a;
+                    break;
+                case 2:
+                    predicted = b;
+                    break;
+                case 3:
+                    predicted = (a + b) / 2;
+                    break;
+                case 4:
+                    predicted = paeth(a, b, c);
+                    break;
+                default:
+                    throw std::runtime_error("bad row filter");
             }
             row[i] = static_cast<std::uint8_t>(in[i] + predicted);
         }
@@ -271,7 +288,8 @@ bool readPng(std::string const& path, PngImage& image, std::string& error) {
                 }
                 channels = colour == 6 ? 4 : 3;
             } else if (type == "IDAT") {
-                compressed.insert(compressed.end(), data.begin() + static_cast<std::ptrdiff_t>(body),
+                compressed.insert(compressed.end(),
+                                  data.begin() + static_cast<std::ptrdiff_t>(body),
                                   data.begin() + static_cast<std::ptrdiff_t>(body + length));
             }
             at = body + length + 4;  // the CRC is not checked

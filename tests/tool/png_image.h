@@ -14,7 +14,9 @@ struct PngImage {
 
     std::uint8_t alpha(int x, int y) const {
         return rgba[(static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                     static_cast<std::size_t>(x)) * 4 + 3];
+                     static_cast<std::size_t>(x)) *
+                        4 +
+                    3];
     }
 };
 

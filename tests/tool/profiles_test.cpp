@@ -16,7 +16,8 @@ constexpr double kPi = 3.141592653589793;
 
 TEST(OrxOutlineTest, WritesTheMovedOutline) {
     Scratch scratch;
-    ToolRun run = scratch.orx({"outline", "1", "--dims", "2,3", "--offset", "10,20", "-o", "r.json"});
+    ToolRun run =
+        scratch.orx({"outline", "1", "--dims", "2,3", "--offset", "10,20", "-o", "r.json"});
     ASSERT_EQ(run.status, 0) << run.err;
     json expected = json::parse(R"([{"closed": true, "vertices": [
         {"x": 10.0, "y": 20.0, "bulge": 0.0}, {"x": 12.0, "y": 20.0, "bulge": 0.0},
@@ -27,7 +28,8 @@ TEST(OrxOutlineTest, WritesTheMovedOutline) {
 TEST(OrxOutlineTest, NegativeDimensionsAndSvgOutput) {
     Scratch scratch;
     // Code 22 with d0 = -5: the circle of radius 5 about the offset.
-    ASSERT_EQ(scratch.orx({"outline", "22", "--dims=-5", "--offset=-1,2", "-o", "c.dxf"}).status, 0);
+    ASSERT_EQ(scratch.orx({"outline", "22", "--dims=-5", "--offset=-1,2", "-o", "c.dxf"}).status,
+              0);
     ToolRun info = scratch.orx({"info", "c.dxf"});
     EXPECT_NEAR(regionAreaSum(info.out), 25 * kPi, 1e-6);
     EXPECT_NE(info.out.find("extents (-6, -3) - (4, 7)"), std::string::npos) << info.out;

@@ -26,7 +26,7 @@ double coveredWeight(int alpha) {
 }
 
 struct Coverage {
-    double area = 0.0;      // in drawing units
+    double area = 0.0;  // in drawing units
     double centroidX = 0.0;
     double centroidY = 0.0;  // drawing coordinates, y up
 };
@@ -53,7 +53,8 @@ Coverage measure(Scratch const& scratch, std::string const& svgFile) {
     double unitsPerPixel = viewWidth / widthPixels;
 
     std::string png = scratch.path("picture.png");
-    std::string command = "'" + svgRenderer() + "' -o '" + png + "' '" + scratch.path(svgFile) + "'";
+    std::string command =
+        "'" + svgRenderer() + "' -o '" + png + "' '" + scratch.path(svgFile) + "'";
     EXPECT_EQ(std::system(command.c_str()), 0);
     PngImage image;
     std::string error;
@@ -107,7 +108,9 @@ struct ArcCase {
     double bulge;  // of the segment from (0, 0) to (100, 0); the loop closes along the x axis
 };
 
-void PrintTo(ArcCase const& c, std::ostream* os) { *os << c.name; }
+void PrintTo(ArcCase const& c, std::ostream* os) {
+    *os << c.name;
+}
 
 class OrxSvgArcTest : public OrxSvgPixelTest, public testing::WithParamInterface<ArcCase> {};
 
@@ -134,12 +137,11 @@ TEST_P(OrxSvgArcTest, ArcBulgesToItsSideWithItsArea) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Bulges, OrxSvgArcTest,
-                         testing::Values(ArcCase{"HalfCircleBelow", 1.0},
-                                         ArcCase{"HalfCircleAbove", -1.0},
-                                         ArcCase{"FlatArcBelow", 0.25},
-                                         ArcCase{"LargeArcAbove", -2.0},
-                                         ArcCase{"LargeArcBelow", 3.0}),
-                         [](testing::TestParamInfo<ArcCase> const& p) { return std::string(p.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Bulges, OrxSvgArcTest,
+    testing::Values(ArcCase{"HalfCircleBelow", 1.0}, ArcCase{"HalfCircleAbove", -1.0},
+                    ArcCase{"FlatArcBelow", 0.25}, ArcCase{"LargeArcAbove", -2.0},
+                    ArcCase{"LargeArcBelow", 3.0}),
+    [](testing::TestParamInfo<ArcCase> const& p) { return std::string(p.param.name); });
 
 }  // namespace

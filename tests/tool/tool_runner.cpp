@@ -26,7 +26,8 @@ std::string slurp(std::string const& path) {
 }  // namespace
 
 Scratch::Scratch() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "orx-tool-test-XXXXXX").string();
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "orx-tool-test-XXXXXX").string();
     char* made = mkdtemp(pattern.data());
     m_dir = made != nullptr ? made : "";
 }
@@ -36,14 +37,18 @@ Scratch::~Scratch() {
     std::filesystem::remove_all(m_dir, ignored);
 }
 
-std::string Scratch::path(std::string const& name) const { return m_dir + "/" + name; }
+std::string Scratch::path(std::string const& name) const {
+    return m_dir + "/" + name;
+}
 
 std::string Scratch::write(std::string const& name, std::string const& text) const {
     std::ofstream(path(name), std::ios::binary) << text;
     return path(name);
 }
 
-std::string Scratch::read(std::string const& name) const { return slurp(path(name)); }
+std::string Scratch::read(std::string const& name) const {
+    return slurp(path(name));
+}
 
 bool Scratch::exists(std::string const& name) const {
     return std::filesystem::exists(path(name));
@@ -63,7 +68,9 @@ ToolRun Scratch::orx(std::vector<std::string> const& args) const {
     return run;
 }
 
-std::string dataFile(std::string const& name) { return std::string(ORX_TOOL_DATA) + "/" + name; }
+std::string dataFile(std::string const& name) {
+    return std::string(ORX_TOOL_DATA) + "/" + name;
+}
 
 double regionAreaSum(std::string const& infoOutput) {
     double sum = 0.0;
@@ -79,4 +86,6 @@ double regionAreaSum(std::string const& infoOutput) {
     return sum;
 }
 
-std::string svgRenderer() { return ORX_RSVG_CONVERT; }
+std::string svgRenderer() {
+    return ORX_RSVG_CONVERT;
+}

@@ -39,8 +39,9 @@ COrxVertexArray firstClosed(Drawing const& drawing) {
     if (drawing.polylines.empty()) {
         throw ToolError(drawing.source + ": holds no polyline; a closed one is needed");
     }
-    throw ToolError(drawing.source + ": polyline 1 is open and no other is closed; a closed one "
-                                     "is needed");
+    throw ToolError(drawing.source +
+                    ": polyline 1 is open and no other is closed; a closed one "
+                    "is needed");
 }
 
 COrxVertexArray::boolOper boolOperation(std::string const& name) {
@@ -60,14 +61,13 @@ std::vector<Region> inputRegions(Drawing const& drawing) {
     RegionGrouping grouping = groupRegions(drawing.polylines);
     if (grouping.regions.empty()) {
         throw ToolError(drawing.source + ": no closed loop to build a region from" +
-                        (grouping.open.empty() ? "" : " (polyline " +
-                                                          std::to_string(grouping.open[0] + 1) +
-                                                          " is open)"));
+                        (grouping.open.empty()
+                             ? ""
+                             : " (polyline " + std::to_string(grouping.open[0] + 1) + " is open)"));
     }
     if (!grouping.open.empty() || !grouping.leftOut.empty()) {
-        std::cerr << "orx: " << drawing.source << ": " << grouping.open.size()
-                  << " open and " << grouping.leftOut.size()
-                  << " crossing polylines take no part in the regions\n";
+        std::cerr << "orx: " << drawing.source << ": " << grouping.open.size() << " open and "
+                  << grouping.leftOut.size() << " crossing polylines take no part in the regions\n";
     }
     std::vector<Region> regions;
     for (RegionGrouping::Entry const& entry : grouping.regions) {
@@ -107,7 +107,8 @@ void drawPolylines(SvgPicture& picture, std::vector<COrxVertexArray> const& poly
 
 void writeResult(std::string const& path, std::vector<COrxVertexArray> const& polylines) {
     if (formatOf(path) == FileFormat::kUnknown) {
-        throw ToolError(path + ": unknown output format (the name must end in .dxf, .json or .svg)");
+        throw ToolError(path +
+                        ": unknown output format (the name must end in .dxf, .json or .svg)");
     }
     if (formatOf(path) != FileFormat::kSvg) {
         writeDrawing(path, polylines);

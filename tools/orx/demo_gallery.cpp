@@ -75,7 +75,7 @@ void addProfiles(Gallery& gallery) {
 }
 
 void addBooleans(Gallery& gallery) {
-    COrxVertexArray plate = outline(27, {200, 120, 30});      // rounded rectangle
+    COrxVertexArray plate = outline(27, {200, 120, 30});       // rounded rectangle
     COrxVertexArray disc = outline(802, {150}, 190.0, 110.0);  // circle about (190, 110)
     struct Operation {
         char const* name;
@@ -111,8 +111,9 @@ void addBooleans(Gallery& gallery) {
 void addRegionWithHoles(Gallery& gallery) {
     std::vector<COrxVertexArray> plate = {outline(24, {300, 180, 25})};
     std::vector<COrxVertexArray> cuts = {
-        outline(802, {40}, 50, 50),   outline(802, {40}, 250, 50),   outline(802, {40}, 50, 130),
-        outline(802, {40}, 250, 130), outline(803, {100, 36}, 150, 90), outline(22, {-30}, 300, 180),
+        outline(802, {40}, 50, 50),       outline(802, {40}, 250, 50),
+        outline(802, {40}, 50, 130),      outline(802, {40}, 250, 130),
+        outline(803, {100, 36}, 150, 90), outline(22, {-30}, 300, 180),
     };
     std::vector<Region> result =
         combineRegions(RegionOperation::kDiff, regionsOf(plate), regionsOf(cuts));
@@ -123,12 +124,13 @@ void addRegionWithHoles(Gallery& gallery) {
         area += regionArea(region);
     }
     addExtentDimensions(picture, plate[0]);
-    std::string title = "region diff: chamfered plate, minus four bores, a slotted hole, "
-                        "and a corner cut";
+    std::string title =
+        "region diff: chamfered plate, minus four bores, a slotted hole, "
+        "and a corner cut";
     picture.addCaption(title);
     picture.addCaption(std::to_string(result.size()) + " region, " +
-                       std::to_string(result.empty() ? 0 : result[0].len() - 1) +
-                       " holes, area " + shortText(area, 8));
+                       std::to_string(result.empty() ? 0 : result[0].len() - 1) + " holes, area " +
+                       shortText(area, 8));
     gallery.save("region-holes.svg", picture);
     gallery.regions.push_back({"region-holes.svg", title});
 }
@@ -153,11 +155,13 @@ std::string indexPage(Gallery const& gallery) {
         << "figure { margin: 0; border: 1px solid #ddd; padding: 0.5em; }\n"
         << "figure img { display: block; max-width: 480px; }\n"
         << "figcaption { font-size: 0.9em; margin-top: 0.3em; }\n</style>\n</head>\n<body>\n"
-        << "<h1>orx demo</h1>\n<p>Profile outlines, boolean operations and regions, drawn from the library's bulge "
+        << "<h1>orx demo</h1>\n<p>Profile outlines, boolean operations and regions, drawn from the "
+           "library's bulge "
            "polylines: arcs are true arcs, regions are filled by the even-odd rule.</p>\n"
-        << "<h2>Boolean operations</h2>\n" << figures(gallery.booleans)
-        << "<h2>Region with holes</h2>\n" << figures(gallery.regions)
-        << "<h2>Profile outlines (" << gallery.profiles.size() << " codes)</h2>\n"
+        << "<h2>Boolean operations</h2>\n"
+        << figures(gallery.booleans) << "<h2>Region with holes</h2>\n"
+        << figures(gallery.regions) << "<h2>Profile outlines (" << gallery.profiles.size()
+        << " codes)</h2>\n"
         << figures(gallery.profiles) << "</body>\n</html>\n";
     return out.str();
 }

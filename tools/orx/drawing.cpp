@@ -44,7 +44,8 @@ std::vector<VertexList> toVertexLists(COrxVertexArray const& polyline) {
         list.z = run[0].startPoint().z;
         for (int i = 0; i < run.len(); ++i) {
             COrxVertex const& segment = run[i];
-            list.points.push_back({segment.startPoint().x, segment.startPoint().y, segment.bulge()});
+            list.points.push_back(
+                {segment.startPoint().x, segment.startPoint().y, segment.bulge()});
         }
         if (!list.closed) {
             COrxPoint3d const& end = run[-1].endPoint();

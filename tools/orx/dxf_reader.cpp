@@ -89,9 +89,15 @@ public:
 
     void add(Group const& g) {
         switch (g.code) {
-            case 90: m_declaredCount = integer(g); break;
-            case 70: m_list.closed = (integer(g) & 1) != 0; break;
-            case 38: m_list.z = number(g); break;
+            case 90:
+                m_declaredCount = integer(g);
+                break;
+            case 70:
+                m_list.closed = (integer(g) & 1) != 0;
+                break;
+            case 38:
+                m_list.z = number(g);
+                break;
             case 10:
                 m_list.points.push_back({number(g), 0.0, 0.0});
                 m_hasY.push_back(false);
@@ -100,11 +106,20 @@ public:
                 currentPoint(g).y = number(g);
                 m_hasY.back() = true;
                 break;
-            case 42: currentPoint(g).bulge = number(g); break;
-            case 210: m_extrusion[0] = number(g); break;
-            case 220: m_extrusion[1] = number(g); break;
-            case 230: m_extrusion[2] = number(g); break;
-            default: break;  // layer, handle, widths, colour: not geometry
+            case 42:
+                currentPoint(g).bulge = number(g);
+                break;
+            case 210:
+                m_extrusion[0] = number(g);
+                break;
+            case 220:
+                m_extrusion[1] = number(g);
+                break;
+            case 230:
+                m_extrusion[2] = number(g);
+                break;
+            default:
+                break;  // layer, handle, widths, colour: not geometry
         }
     }
 
@@ -113,11 +128,12 @@ public:
         std::string where = "LWPOLYLINE";
         for (std::size_t i = 0; i < m_hasY.size(); ++i) {
             if (!m_hasY[i]) {
-                throw m_reader.error(m_line, where + ": vertex " + std::to_string(i + 1) +
-                                                 " has no y (group 20)");
+                throw m_reader.error(
+                    m_line, where + ": vertex " + std::to_string(i + 1) + " has no y (group 20)");
             }
         }
-        if (m_declaredCount >= 0 && static_cast<std::size_t>(m_declaredCount) != m_list.points.size()) {
+        if (m_declaredCount >= 0 &&
+            static_cast<std::size_t>(m_declaredCount) != m_list.points.size()) {
             throw m_reader.error(m_line, where + " declares " + std::to_string(m_declaredCount) +
                                              " vertices but lists " +
                                              std::to_string(m_list.points.size()));
@@ -214,7 +230,8 @@ DxfContent readDxf(std::string const& text, std::string const& file) {
             continue;  // comment
         }
         if (!sawSection && !(g.code == 0 && g.value == "SECTION")) {
-            throw reader.error(g.line, "not a DXF file (expected a SECTION, found '" + g.value + "')");
+            throw reader.error(g.line,
+                               "not a DXF file (expected a SECTION, found '" + g.value + "')");
         }
         if (g.code != 0) {
             if (g.code == 2 && section == "?") {

@@ -51,7 +51,9 @@ void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) 
         app.add_subcommand("bool", "Combine the first closed polyline of each input");
     addOperands(boolean, args);
     boolean->callback([&] {
-        run = [&] { return orxtool::runBool(args.operation, args.first, args.second, args.output); };
+        run = [&] {
+            return orxtool::runBool(args.operation, args.first, args.second, args.output);
+        };
     });
 
     CLI::App* region = app.add_subcommand("region", "Combine the regions of each input");
@@ -75,9 +77,8 @@ void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) 
     render->add_option("FILE", args.inputs, "inputs (.dxf or .json)")->required();
     render->add_option("-o,--output", args.output, "picture (.svg)")->required();
     render->add_flag("-m,--markers", args.markers, "mark every vertex");
-    render->callback([&] {
-        run = [&] { return orxtool::runRender(args.inputs, args.output, args.markers); };
-    });
+    render->callback(
+        [&] { run = [&] { return orxtool::runRender(args.inputs, args.output, args.markers); }; });
 
     CLI::App* demo = app.add_subcommand("demo", "Write a gallery of outlines and operations");
     demo->add_option("DIR", args.directory, "folder of the gallery (default orx-demo)");

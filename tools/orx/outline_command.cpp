@@ -33,8 +33,8 @@ std::string knownCodes() {
 int runOutline(int code, std::string const& dimsText, std::string const& offsetText,
                std::string const& output) {
     if (!libraryKnowsCode(code)) {
-        throw ToolError("unknown profile code " + std::to_string(code) + " (known: " +
-                        knownCodes() + ")");
+        throw ToolError("unknown profile code " + std::to_string(code) +
+                        " (known: " + knownCodes() + ")");
     }
     std::vector<double> dims = parseNumberList(dimsText, "--dims");
     std::vector<double> offset = parseNumberList(offsetText, "--offset");
@@ -51,7 +51,8 @@ int runOutline(int code, std::string const& dimsText, std::string const& offsetT
     for (double d : dims) {
         libraryDims.append(d);
     }
-    COrxVector3d move = offset.empty() ? COrxVector3d(0, 0, 0) : COrxVector3d(offset[0], offset[1], 0);
+    COrxVector3d move =
+        offset.empty() ? COrxVector3d(0, 0, 0) : COrxVector3d(offset[0], offset[1], 0);
     COrxVertexArray outline = ORX::g_outline(code, move, libraryDims);
     if (outline.isEmpty()) {
         throw ToolError("profile code " + std::to_string(code) +

@@ -96,9 +96,12 @@ RegionOperation regionOperation(std::string const& name) {
 std::vector<Region> combineRegions(RegionOperation op, std::vector<Region> const& a,
                                    std::vector<Region> const& b) {
     switch (op) {
-        case RegionOperation::kUnion: return unite(a, b);
-        case RegionOperation::kSect: return intersect(a, b);
-        case RegionOperation::kDiff: return subtract(a, b);
+        case RegionOperation::kUnion:
+            return unite(a, b);
+        case RegionOperation::kSect:
+            return intersect(a, b);
+        case RegionOperation::kDiff:
+            return subtract(a, b);
     }
     return {};
 }

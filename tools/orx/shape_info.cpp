@@ -15,7 +15,9 @@ namespace {
 // Digits of the numbers in reports: enough to compare, few enough to read.
 constexpr int kReportDigits = 10;
 
-std::string num(double v) { return shortText(v, kReportDigits); }
+std::string num(double v) {
+    return shortText(v, kReportDigits);
+}
 
 // Every segment carries its polyline's index + 1 as its tag, which the region building keeps
 // (tags travel with copies and reversals), so the regions can name their source polylines.

@@ -19,8 +19,8 @@ struct RegionGrouping {
         std::vector<int> sources;  // the polyline index (0-based) of each loop
     };
     std::vector<Entry> regions;
-    std::vector<int> open;      // polylines that are not closed loops
-    std::vector<int> leftOut;   // closed loops that cross or touch another loop
+    std::vector<int> open;     // polylines that are not closed loops
+    std::vector<int> leftOut;  // closed loops that cross or touch another loop
 };
 
 // The closed polylines grouped into regions by nesting (ORX::g_vll_regions_prepare, then

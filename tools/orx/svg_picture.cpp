@@ -31,7 +31,9 @@ constexpr double kCharacterPixels = 7.0;
 // Opacity of region fills, so that overlapping operands stay visible.
 constexpr double kFillOpacity = 0.3;
 
-std::string num(double v) { return shortText(v, kSvgDigits); }
+std::string num(double v) {
+    return shortText(v, kSvgDigits);
+}
 
 // The caption broken after ", " into lines of at most `width` characters where it can be.
 std::vector<std::string> wrapped(std::string const& caption, std::size_t width) {
@@ -50,7 +52,9 @@ std::vector<std::string> wrapped(std::string const& caption, std::size_t width) 
     return lines;
 }
 
-std::string point(COrxPoint3d const& p) { return num(p.x) + " " + num(-p.y); }
+std::string point(COrxPoint3d const& p) {
+    return num(p.x) + " " + num(-p.y);
+}
 
 std::string arcTo(COrxVertex const& segment) {
     double b = segment.bulge();
@@ -92,11 +96,20 @@ std::string xmlEscaped(std::string const& text) {
     std::string out;
     for (char c : text) {
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            default: out += c;
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            default:
+                out += c;
         }
     }
     return out;
@@ -157,7 +170,9 @@ void SvgPicture::addDimension(COrxPoint3d const& a, COrxPoint3d const& b, std::s
     m_items.push_back(Item{Item::kDimension, "#333333", {}, a, b, text, offsetPixels});
 }
 
-void SvgPicture::addCaption(std::string const& line) { m_captions.push_back(line); }
+void SvgPicture::addCaption(std::string const& line) {
+    m_captions.push_back(line);
+}
 
 SvgPicture::View SvgPicture::fitView() const {
     bool dimensions = std::any_of(m_items.begin(), m_items.end(),
@@ -181,8 +196,8 @@ SvgPicture::View SvgPicture::fitView() const {
 std::string SvgPicture::itemSvg(Item const& item, View const& view) const {
     double px = view.unitsPerPixel;
     std::ostringstream out;
-    std::string stroke = " stroke=\"" + item.colour + "\" stroke-width=\"" + num(kStrokePixels * px) +
-                         "\" stroke-linejoin=\"round\"";
+    std::string stroke = " stroke=\"" + item.colour + "\" stroke-width=\"" +
+                         num(kStrokePixels * px) + "\" stroke-linejoin=\"round\"";
     switch (item.kind) {
         case Item::kRegion: {
             std::string data;
@@ -244,10 +259,12 @@ std::string SvgPicture::itemSvg(Item const& item, View const& view) const {
 
 std::string SvgPicture::svg() const {
     View view = fitView();
-    int totalWidth = m_captions.empty() ? view.widthPixels : std::max(view.widthPixels, kMinCaptionPixels);
+    int totalWidth =
+        m_captions.empty() ? view.widthPixels : std::max(view.widthPixels, kMinCaptionPixels);
     std::vector<std::string> lines;
     for (std::string const& caption : m_captions) {
-        for (std::string& line : wrapped(caption, static_cast<std::size_t>(totalWidth / kCharacterPixels))) {
+        for (std::string& line :
+             wrapped(caption, static_cast<std::size_t>(totalWidth / kCharacterPixels))) {
             lines.push_back(std::move(line));
         }
     }
