@@ -81,6 +81,9 @@ std::string shortText(double value, int digits) {
     if (value == 0.0) {
         return "0";  // also for -0, which reads oddly in a report or a label
     }
+    if (std::isnan(value)) {
+        return "nan";  // whatever its sign bit
+    }
     char buffer[64];
     auto result =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits);
