@@ -1,26 +1,19 @@
 #include "orx/geom/matrix_functions.h"
 
 #include <cmath>
-#include <cwchar>
 
+#include "orx/foundation/string.h"
 #include "orx/geom/functions.h"
 
 namespace {
 
-// Equality of two keywords as the wide string class defines it: both null, or both non-null
-// with identical characters. Kept local until the string class can be used here directly.
-bool sameKeyword(wchar_t const* a, wchar_t const* b) {
-    if (a == nullptr || b == nullptr) {
-        return a == b;
-    }
-    return std::wcscmp(a, b) == 0;
-}
-
+// The side keyword compares with the string class's equality (a null side is neither "L"
+// nor "R").
 double turnAngle(double a, wchar_t const* side, bool negativeX) {
-    if (sameKeyword(side, L"L")) {
+    if (COrxString(side) == L"L") {
         return negativeX ? 0.0 : a - ORX::kPi;
     }
-    if (sameKeyword(side, L"R")) {
+    if (COrxString(side) == L"R") {
         return negativeX ? ORX::kPi - a : 0.0;
     }
     return negativeX ? (ORX::kPi - a) / 2 : -(ORX::kPi - a) / 2;

@@ -1,9 +1,12 @@
 // COrxVertexArray: closure, lengths, points along the polyline, extents and intersections.
 #include <cfloat>
 #include <cmath>
+#include <vector>
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
+#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/internal/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
 
@@ -11,24 +14,6 @@ namespace {
 
 // vxNear looks at points this many point tolerances inside each end of a segment.
 constexpr double kNearEndInset = 10.0;
-
-// Widens [lo, hi] by the points where the arc reaches its extremes in x and y.
-void includeArcExtremes(COrxVertex const& v, COrxPoint3d& lo, COrxPoint3d& hi) {
-    COrxPoint3d c;
-    double r = 0.0, a0 = 0.0, a1 = 0.0;
-    if (!v.toArc(c, r, a0, a1)) {
-        return;
-    }
-    double const sweep = ORX::g_ang(a1 - a0);
-    for (int quarter = 0; quarter < 4; ++quarter) {
-        double const direction = quarter * ORX::kHalfPi;
-        if (ORX::g_ang(direction - a0) <= sweep) {
-            COrxPoint3d const extreme = ORX::polar(c, direction, r);
-            lo = ORX::p_min(lo, extreme);
-            hi = ORX::p_max(hi, extreme);
-        }
-    }
-}
 
 // Distance from p to the segment as vxNear measures it.
 double nearDistance(COrxVertex const& v, COrxPoint3d const& p) {
@@ -137,13 +122,16 @@ bool COrxVertexArray::extents(COrxPoint3d& min, COrxPoint3d& max) const {
     if (isEmpty()) {
         return false;
     }
+    // The plan box of each segment (arcs with their extreme points); z from the end points.
     COrxPoint3d lo = m_vertices[0].startPoint();
     COrxPoint3d hi = lo;
     for (int k = 0; k < len(); ++k) {
         COrxVertex const& v = m_vertices[k];
         lo = ORX::p_min(ORX::p_min(lo, v.startPoint()), v.endPoint());
         hi = ORX::p_max(ORX::p_max(hi, v.startPoint()), v.endPoint());
-        includeArcExtremes(v, lo, hi);
+        ORX::internal::SegmentBox const box = ORX::internal::segmentBox(v);
+        lo = ORX::p_min(lo, COrxPoint3d(box.xmin, box.ymin, lo.z));
+        hi = ORX::p_max(hi, COrxPoint3d(box.xmax, box.ymax, hi.z));
     }
     min = lo;
     max = hi;
@@ -180,12 +168,33 @@ bool COrxVertexArray::intersectWith(COrxPoint3dArray& pts, COrxVertexArray const
     if (&other == this) {
         return false;
     }
+    // Extended lines and circles meet far from the segments: only then is every pair tested.
     COrxPoint3dArray found;
+    auto testPair = [&](int i, int j) {
+        m_vertices[i].intersectWith(found, other.m_vertices[j], flags);
+        for (int k = 0; k < found.len(); ++k) {
+            pts.appendUniq(found[k]);
+        }
+    };
+    if ((flags & COrxVertex::kExtended) != 0) {
+        for (int i = 0; i < len(); ++i) {
+            for (int j = 0; j < other.len(); ++j) {
+                testPair(i, j);
+            }
+        }
+        return !pts.isEmpty();
+    }
+    // Segments meet only where their boxes overlap: for each segment of this polyline, the
+    // other's segments near it, in ascending order, as the loop over all pairs visits them.
+    std::vector<ORX::internal::SegmentBox> const mine = ORX::internal::segmentBoxes(*this);
+    std::vector<ORX::internal::SegmentBox> const theirs = ORX::internal::segmentBoxes(other);
+    ORX::internal::SegmentGrid const grid(theirs);
+    std::vector<int> near;
     for (int i = 0; i < len(); ++i) {
-        for (int j = 0; j < other.len(); ++j) {
-            m_vertices[i].intersectWith(found, other.m_vertices[j], flags);
-            for (int k = 0; k < found.len(); ++k) {
-                pts.appendUniq(found[k]);
+        grid.query(mine[i], near);
+        for (int j : near) {
+            if (ORX::internal::mayOverlap(mine[i], theirs[j])) {
+                testPair(i, j);
             }
         }
     }
@@ -205,8 +214,14 @@ bool COrxVertexArray::intersectWithBulg0(COrxPoint3dArray& pts,
     if (&other == this) {
         return false;
     }
+    std::vector<ORX::internal::SegmentBox> const mine = ORX::internal::segmentBoxes(*this);
+    std::vector<ORX::internal::SegmentBox> const theirs = ORX::internal::segmentBoxes(other);
     for (int i = 0; i < len(); ++i) {
         for (int j = 0; j < other.len(); ++j) {
+            // Chords lie within their segments' boxes.
+            if (!ORX::internal::mayOverlap(mine[i], theirs[j])) {
+                continue;
+            }
             COrxPoint3dArray const found = m_vertices[i].intersectWithBulg0(other.m_vertices[j]);
             for (int k = 0; k < found.len(); ++k) {
                 pts.appendUniq(found[k]);

@@ -2,9 +2,13 @@
 // point-in-polyline test, selection of the pieces, chaining, normalisation.
 #include "orx/regions/bool_operation.h"
 
-#include <cstdlib>
+#include <vector>
 
 #include "orx/geom/functions.h"
+#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/internal/segment_grid.h"
+#include "orx/regions/internal/indexed_polyline.h"
+#include "orx/regions/internal/piece_index.h"
 
 namespace ORX {
 
@@ -16,11 +20,6 @@ namespace {
 long long cutBudget(int n, int m) {
     return 8LL * (n + 1) * (m + 1) + 1024;
 }
-
-// A ray that passes through a segment end makes the test restart in a random direction. A
-// direction that misses every end always exists, so this cap is never reached on finite
-// input; it guards against geometry that no direction can get past (non-finite values).
-constexpr int kMaxRayRestarts = 100000;
 
 // Cuts a[i] where it meets b[j] (or where b[j] starts on its interior); true when it cut.
 bool cutFirst(COrxVertexArray& a, int i, COrxVertexArray const& b, int j, COrxPoint3dArray& pts) {
@@ -52,26 +51,11 @@ bool cutSecond(COrxVertexArray const& a, int i, COrxVertexArray& b, int j, COrxP
     return false;
 }
 
-// The ray test in one direction: 1 inside, 0 outside, -1 when the ray passed through a
-// segment end (restart), 2 when p lies on the polyline.
-int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction) {
-    COrxVertex const ray(p, polar(p, direction, kPolylineRayLength), 0.0);
-    COrxPoint3dArray pts;
-    int hits = 0;
-    for (int k = 0; k < vl.len(); ++k) {
-        COrxVertex const& v = vl[k];
-        if (v.isPoint(p)) {
-            return 2;
-        }
-        v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
-        for (int n = 0; n < pts.len(); ++n) {
-            if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
-                return -1;
-            }
-        }
-        hits += pts.len();
-    }
-    return hits % 2;
+// Segment k was cut in two: its box and the new one after it.
+void splitBox(std::vector<internal::SegmentBox>& boxes, COrxVertexArray const& vl, int k) {
+    auto const at = boxes.begin() + k;
+    *at = internal::segmentBox(vl[k]);
+    boxes.insert(at + 1, internal::segmentBox(vl[k + 1]));
 }
 
 bool holdsReversed(COrxVertexArray const& vl, COrxVertex const& piece) {
@@ -81,11 +65,12 @@ bool holdsReversed(COrxVertexArray const& vl, COrxVertex const& piece) {
 // The pieces of `from` that the operation keeps, tested against `other`.
 void selectPieces(COrxVertexArray const& from, COrxVertexArray const& other, bool first,
                   COrxVertexArray::boolOper op, COrxVertexArray& result) {
+    internal::IndexedPolyline const against(other);
     for (int k = 0; k < from.len(); ++k) {
         COrxVertex const& s = from[k];
         COrxPoint3d const m = s.mid();
-        bool const in = g_vl_pt_inside(other, m, false);
-        bool const inOrOn = in || g_vl_pt_inside(other, m, true);
+        bool const in = against.inside(m, false);
+        bool const inOrOn = in || against.inside(m, true);
         switch (op) {
             case COrxVertexArray::boolUnion:
                 if (!inOrOn) {
@@ -112,14 +97,36 @@ void selectPieces(COrxVertexArray const& from, COrxVertexArray const& other, boo
 
 bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
     long long budget = cutBudget(a.len(), b.len());
+    // Only segments whose boxes overlap can cut one another. b's segments are found through a
+    // grid over their boxes as they were before cutting; the pieces of one of them stay
+    // together in b, in order, so visiting the candidates in ascending order and their pieces
+    // in turn visits the pairs in the order of a loop over all of b.
+    std::vector<internal::SegmentBox> boxA = internal::segmentBoxes(a);
+    std::vector<internal::SegmentBox> boxB = internal::segmentBoxes(b);
+    internal::SegmentGrid const grid(boxB);
+    internal::PieceIndex pieces(b.len());
+    std::vector<int> near;
     COrxPoint3dArray pts;
-    for (int i = 0; i < a.len(); ++i) {
-        for (int j = 0; j < b.len() && budget > 0; ++j) {
-            bool const cut = ((mode & 1) && cutFirst(a, i, b, j, pts)) ||
-                             ((mode & 2) && cutSecond(a, i, b, j, pts));
-            if (cut) {
+    for (int i = 0; i < a.len() && budget > 0; ++i) {
+        grid.query(boxA[static_cast<std::size_t>(i)], near);
+        for (int original : near) {
+            int const first = pieces.firstPiece(original);
+            for (int k = 0; k < pieces.count(original) && budget > 0; ++k) {
+                int const j = first + k;
+                if (!internal::mayOverlap(boxA[static_cast<std::size_t>(i)],
+                                          boxB[static_cast<std::size_t>(j)])) {
+                    continue;
+                }
+                if ((mode & 1) && cutFirst(a, i, b, j, pts)) {
+                    splitBox(boxA, a, i);
+                } else if ((mode & 2) && cutSecond(a, i, b, j, pts)) {
+                    splitBox(boxB, b, j);
+                    pieces.addPiece(original);
+                } else {
+                    continue;
+                }
                 --budget;
-                --j;  // test the same pair again
+                --k;  // test the same pair again
             }
         }
     }
@@ -127,22 +134,7 @@ bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
 }
 
 bool g_vl_pt_inside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
-    if (vl.len() < 2) {
-        return false;
-    }
-    p.z = vl[0].startPoint().z;
-    double direction = angle(vl[0].mid(), p);
-    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
-        int const parity = rayParity(vl, p, direction);
-        if (parity == 2) {
-            return onBoundary;
-        }
-        if (parity >= 0) {
-            return parity == 1;
-        }
-        direction = std::rand() * kRandomDirectionScale;
-    }
-    return false;
+    return internal::IndexedPolyline(vl).inside(p, onBoundary);
 }
 
 void g_vl_sort(COrxVertexArray& vl) {

@@ -20,6 +20,11 @@ namespace ORX {
 constexpr double kPolylineRayLength = 10000000.0;
 // rand() scaled to a direction in [0, 2pi]: 2pi / 32767.
 constexpr double kRandomDirectionScale = 0.00019175345033660654;
+// The point-in-polyline test restarts in a random direction when its ray passes through a
+// segment end. A direction that misses every end always exists, so this cap is never reached
+// on finite input; it only guards against geometry no direction gets past (non-finite
+// values), where the answer is then false.
+constexpr int kMaxRayRestarts = 100000;
 
 // The union (boolUnion), a minus b (boolDiff) or the intersection (boolSect) of two closed
 // polylines. The result may hold several closed loops one after another (g_vl_vll splits

@@ -11,6 +11,7 @@
 #include "orx/geom/tolerance.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
+#include "orx/regions/internal/indexed_polyline.h"
 
 namespace ORX {
 
@@ -58,6 +59,7 @@ void revertLoops(Region& region, unsigned long from, unsigned long to) {
 // The class of every piece of `region` against `other`, in loop and segment order.
 std::vector<int> classify(Region const& region, Region const& other, COrxPoint3dTol* pieceTol,
                           double standardTol) {
+    internal::IndexedRegion const against(other);
     std::vector<int> classes;
     classes.reserve(static_cast<std::size_t>(segmentCount(region)));
     for (unsigned long l = 0; l < region.len(); ++l) {
@@ -66,7 +68,7 @@ std::vector<int> classify(Region const& region, Region const& other, COrxPoint3d
             if (pieceTol != nullptr) {
                 *pieceTol = std::min(standardTol, loop[k].bulgLen() * kPieceTolShare);
             }
-            classes.push_back(g_vll_pt_inside(other, loop[k].mid()));
+            classes.push_back(against.inside(loop[k].mid()));
         }
     }
     return classes;
@@ -187,10 +189,6 @@ bool regionOperation(Region& a, Region& b, RegionList& out, RegionOp op) {
     return true;
 }
 
-bool strictlyInside(COrxVertexArray const& loop, COrxPoint3d const& p) {
-    return g_vl_pt_inside(loop, p, false);
-}
-
 }  // namespace
 
 COrxVector3d const& refNormal() {
@@ -202,22 +200,7 @@ void setRefNormal(COrxVector3d const& normal) {
 }
 
 int g_vll_pt_inside(Region const& region, COrxPoint3d const& p) {
-    if (region.isEmpty()) {
-        return kOutside;
-    }
-    if (!strictlyInside(region[0], p)) {
-        return g_vl_pt_inside(region[0], p, true) ? kOnBoundary : kOutside;
-    }
-    for (unsigned long h = 1; h < region.len(); ++h) {
-        COrxVertexArray const& hole = region[static_cast<int>(h)];
-        if (strictlyInside(hole, p)) {
-            return kOutside;
-        }
-        if (g_vl_pt_inside(hole, p, true)) {
-            return kOnBoundary;
-        }
-    }
-    return kInside;
+    return internal::IndexedRegion(region).inside(p);
 }
 
 bool g_region_union(Region a, Region b, RegionList& out) {
@@ -276,6 +259,11 @@ COrxArrayTempl<COrxVertexArray> g_vl_vll(COrxVertexArray const& vl) {
 
 RegionList g_vll_region(Region const& loops) {
     int const n = static_cast<int>(loops.len());
+    std::vector<internal::IndexedPolyline> indexed;
+    indexed.reserve(static_cast<std::size_t>(n));
+    for (int i = 0; i < n; ++i) {
+        indexed.emplace_back(loops[i]);
+    }
     std::vector<int> depth(static_cast<std::size_t>(n), 0);
     for (int i = 0; i < n; ++i) {
         if (loops[i].len() < 2) {
@@ -283,7 +271,7 @@ RegionList g_vll_region(Region const& loops) {
         }
         COrxPoint3d const m = loops[i][0].mid();
         for (int j = 0; j < n; ++j) {
-            depth[i] += (j != i && strictlyInside(loops[j], m)) ? 1 : 0;
+            depth[i] += (j != i && indexed[j].inside(m, false)) ? 1 : 0;
         }
     }
     std::vector<int> outer;
@@ -295,9 +283,11 @@ RegionList g_vll_region(Region const& loops) {
     std::stable_sort(outer.begin(), outer.end(),
                      [&depth](int l, int r) { return depth[l] < depth[r]; });
     RegionList regions;
+    std::vector<int> outerLoop;
     for (int i : outer) {
         Region region;
         regions.append(region.append(loops[i]));
+        outerLoop.push_back(i);
     }
     // A hole goes to the innermost outer loop around it: deeper outer loops were created
     // later, so the search runs from the last region back.
@@ -307,7 +297,7 @@ RegionList g_vll_region(Region const& loops) {
         }
         COrxPoint3d const m = loops[h][0].mid();
         for (int r = static_cast<int>(regions.len()) - 1; r >= 0; --r) {
-            if (strictlyInside(regions[r][0], m)) {
+            if (indexed[outerLoop[r]].inside(m, false)) {
                 regions[r].append(loops[h]);
                 break;
             }

@@ -182,3 +182,23 @@ TEST(BoolOperationTest, SortChainsHeadToTailWithExactJoints) {
     EXPECT_EQ(vl[3].startPoint(), pt(7, 7));
     EXPECT_FALSE(vl.isClosed());
 }
+
+TEST(BoolOperationTest, TangentCirclesTouchInOnePoint) {
+    COrxVertexArray const a = circle(pt(0, 0), 1);
+    COrxVertexArray const outside = circle(pt(2, 0), 1);  // touching from outside at (1, 0)
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, outside, COrxVertexArray::boolUnion)), 2 * ORX::kPi, 1e-9);
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, outside, COrxVertexArray::boolDiff)), ORX::kPi, 1e-9);
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, outside, COrxVertexArray::boolSect)), 0.0, 1e-9);
+
+    COrxVertexArray const inside = circle(pt(0.5, 0), 0.5);  // touching from inside at (1, 0)
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, inside, COrxVertexArray::boolUnion)), ORX::kPi, 1e-9);
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, inside, COrxVertexArray::boolDiff)), 0.75 * ORX::kPi, 1e-9);
+    EXPECT_NEAR(area(ORX::g_vl_bool(a, inside, COrxVertexArray::boolSect)), 0.25 * ORX::kPi, 1e-9);
+
+    RegionList out;
+    ASSERT_TRUE(ORX::g_region_union(region({a}), region({outside}), out));
+    EXPECT_NEAR(area(out), 2 * ORX::kPi, 1e-9);
+    RegionList diff;
+    ASSERT_TRUE(ORX::g_region_diff(region({a}), region({inside}), diff));
+    EXPECT_NEAR(area(diff), 0.75 * ORX::kPi, 1e-9);
+}

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 
 #include "orx/geom/tolerance.h"
 #include "shapes.h"
@@ -19,67 +18,6 @@ constexpr int kRegionCases = 150;
 constexpr int kSamplesPerCase = 24;
 // Sample points closer than this to an operand's boundary are skipped.
 constexpr double kBoundaryMargin = 1e-3;
-
-class ShapeMaker {
-public:
-    explicit ShapeMaker(unsigned seed) : m_engine(seed) {}
-
-    double uniform(double lo, double hi) {
-        return std::uniform_real_distribution<double>(lo, hi)(m_engine);
-    }
-    int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(m_engine); }
-
-    // Overlapping circles, rounded rectangles, rotated squares and shapes whose arcs cross
-    // the others' arcs, all counter-clockwise, near the origin.
-    COrxVertexArray outline() {
-        COrxPoint3d const c(uniform(-2, 2), uniform(-2, 2), 0);
-        switch (pick(4)) {
-            case 0:
-                return circle(c, uniform(0.8, 3));
-            case 1: {
-                double const w = uniform(1.5, 5), h = uniform(1.5, 5);
-                return roundedRectangle(c.x - w / 2, c.y - h / 2, c.x + w / 2, c.y + h / 2,
-                                        uniform(0.1, 0.7));
-            }
-            case 2:
-                return rotatedSquare(c, uniform(0.7, 2.5), uniform(0, ORX::kHalfPi));
-            default:
-                return bulgedTriangle(c);
-        }
-    }
-
-    // A region: an outline with up to two circular holes well inside it.
-    Region withHoles() {
-        COrxPoint3d const c(uniform(-2, 2), uniform(-2, 2), 0);
-        double const h = uniform(2, 3.5);
-        Region r = region({rectangle(c.x - h, c.y - h, c.x + h, c.y + h)});
-        if (pick(2) == 0) {
-            r[0] = circle(c, h * 1.2);
-        }
-        int const holes = pick(3);
-        for (int k = 0; k < holes; ++k) {
-            double const side = k == 0 ? -1 : 1;  // one hole on each side of the centre
-            COrxPoint3d const hc(c.x + side * h * 0.45, c.y + uniform(-0.3, 0.3) * h, 0);
-            r.append(circle(hc, uniform(0.15, 0.35) * h));
-        }
-        return r;
-    }
-
-private:
-    // A triangle whose edges bulge outwards.
-    COrxVertexArray bulgedTriangle(COrxPoint3d const& c) {
-        double const r = uniform(1, 3), turn = uniform(0, ORX::kTwoPi);
-        COrxVertexArray vl;
-        for (int k = 0; k < 3; ++k) {
-            COrxPoint3d const p = ORX::polar(c, turn + k * ORX::kTwoPi / 3, r);
-            COrxPoint3d const q = ORX::polar(c, turn + (k + 1) * ORX::kTwoPi / 3, r);
-            vl.append(COrxVertex(p, q, uniform(0.05, 0.5)));
-        }
-        return vl;
-    }
-
-    std::mt19937 m_engine;
-};
 
 bool nearBoundary(COrxVertexArray const& vl, COrxPoint3d const& p) {
     COrxPoint3dTol wide(kBoundaryMargin);

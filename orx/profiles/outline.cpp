@@ -1,0 +1,100 @@
+// ORX::g_outline: the fixed table of section codes and the dispatcher over it.
+#include "orx/profiles/outline.h"
+
+#include <cmath>
+#include <cstdint>
+
+#include "orx/profiles/internal/outline_generators.h"
+
+namespace ORX {
+namespace {
+
+struct OutlineRecord {
+    std::uint32_t code;
+    internal::OutlineGenerator generate;
+};
+
+// The callers' vocabulary, in this order; codes 16, 20, 25, 26, 29 and 32 are deliberately
+// absent.
+OutlineRecord const kOutlineTable[kOutlineTableSize] = {
+    {1, internal::rectangle},
+    {2, internal::rightTrapezoid},
+    {3, internal::taper},
+    {4, internal::quadrilateral},
+    {5, internal::gable},
+    {6, internal::flatTopHexagon},
+    {7, internal::symmetricTrapezoid},
+    {8, internal::trapezoid},
+    {9, internal::rightTriangle},
+    {10, internal::isoscelesTriangle},
+    {11, internal::house},
+    {12, internal::triangle},
+    {13, internal::segmentalArch},
+    {14, internal::semicircularArch},
+    {15, internal::basketHandleArch},
+    {17, internal::roundedTopRectangle},
+    {18, internal::pointedArch},
+    {19, internal::circularSegment},
+    {21, internal::parallelogram},
+    {22, internal::circleThroughOrigin},
+    {23, internal::ringSegment},
+    {24, internal::chamferedRectangle},
+    {27, internal::roundedRectangle},
+    {28, internal::diamond},
+    {30, internal::regularPolygon},
+    {31, internal::notchedRectangle},
+    {33, internal::slot},
+    {34, internal::hexagon},
+    {224, internal::chamferedTop},
+    {227, internal::roundedTop},
+    {324, internal::chamferedCorner},
+    {327, internal::roundedCorner},
+    {801, internal::slotWithHead},
+    {802, internal::circleAboutOrigin},
+    {803, internal::centredSlot},
+    {804, internal::oval},
+    {901, internal::coordinatePolygon},
+};
+
+// The generators would turn a NaN or infinite dimension into corners that are not numbers.
+bool finiteInput(COrxVector3d const& offset, internal::Dims const& dims) {
+    if (!offset.isValid()) {
+        return false;
+    }
+    for (unsigned long i = 0; i < dims.len(); ++i) {
+        if (!std::isfinite(dims[static_cast<int>(i)])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+COrxVertexArray g_outline(int type, COrxVector3d const& offset,
+                          COrxArrayTempl<double> const& dims) {
+    COrxVertexArray result;
+    if (!finiteInput(offset, dims)) {
+        return result;
+    }
+    for (OutlineRecord const& record : kOutlineTable) {
+        if (record.code != static_cast<std::uint32_t>(type)) {
+            continue;
+        }
+        if (record.generate == nullptr) {
+            return result;
+        }
+        result = record.generate(offset, dims);
+        return result;
+    }
+    return result;
+}
+
+unsigned int g_outline_code(int i) {
+    if (i < 0 || i >= kOutlineTableSize) {
+        return 0;
+    }
+    return kOutlineTable[i].code;
+}
+
+}  // namespace ORX

@@ -1,0 +1,88 @@
+#include "orx/regions/internal/indexed_polyline.h"
+
+#include <cstdlib>
+
+#include "orx/geom/functions.h"
+#include "orx/regions/bool_operation.h"
+
+namespace ORX {
+namespace internal {
+
+IndexedPolyline::IndexedPolyline(COrxVertexArray const& vl)
+    : m_polyline(vl), m_boxes(segmentBoxes(vl)), m_grid(m_boxes) {}
+
+int IndexedPolyline::rayParity(COrxPoint3d const& p, double direction) const {
+    COrxPoint3d const far = polar(p, direction, kPolylineRayLength);
+    COrxVertex const ray(p, far, 0.0);
+    COrxPoint3dArray pts;
+    int hits = 0;
+    // The segments near the ray, in ascending order: the others can neither hold p nor meet
+    // the ray, so visiting only these gives the answer of a loop over all segments.
+    std::vector<int> candidates;
+    m_grid.queryRay(p, far, candidates);
+    for (int k : candidates) {
+        SegmentBox const& box = m_boxes[static_cast<std::size_t>(k)];
+        if (!mayContain(box, p) && !mayCross(box, p, far)) {
+            continue;  // neither holds p nor meets the ray
+        }
+        COrxVertex const& v = m_polyline[k];
+        if (v.isPoint(p)) {
+            return 2;
+        }
+        v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
+        for (int n = 0; n < pts.len(); ++n) {
+            if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
+                return -1;
+            }
+        }
+        hits += pts.len();
+    }
+    return hits % 2;
+}
+
+bool IndexedPolyline::inside(COrxPoint3d p, bool onBoundary) const {
+    if (m_polyline.len() < 2) {
+        return false;
+    }
+    p.z = m_polyline[0].startPoint().z;
+    double direction = angle(m_polyline[0].mid(), p);
+    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
+        int const parity = rayParity(p, direction);
+        if (parity == 2) {
+            return onBoundary;
+        }
+        if (parity >= 0) {
+            return parity == 1;
+        }
+        direction = std::rand() * kRandomDirectionScale;
+    }
+    return false;
+}
+
+IndexedRegion::IndexedRegion(COrxArrayTempl<COrxVertexArray> const& region) {
+    m_loops.reserve(region.len());
+    for (unsigned long k = 0; k < region.len(); ++k) {
+        m_loops.emplace_back(region[static_cast<int>(k)]);
+    }
+}
+
+int IndexedRegion::inside(COrxPoint3d const& p) const {
+    if (m_loops.empty()) {
+        return -1;
+    }
+    if (!m_loops[0].inside(p, false)) {
+        return m_loops[0].inside(p, true) ? 0 : -1;
+    }
+    for (std::size_t h = 1; h < m_loops.size(); ++h) {
+        if (m_loops[h].inside(p, false)) {
+            return -1;
+        }
+        if (m_loops[h].inside(p, true)) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+}  // namespace internal
+}  // namespace ORX

@@ -1,0 +1,108 @@
+// Measures on outlines shared by the profile tests: closedness, area, extents and the test
+// that no two segments meet except at the joint they share.
+#ifndef ORX_TESTS_PROFILES_OUTLINE_CHECKS_H
+#define ORX_TESTS_PROFILES_OUTLINE_CHECKS_H
+
+#include <cmath>
+#include <initializer_list>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "orx/polyline/polyline.h"
+#include "orx/profiles/profiles.h"
+
+namespace orx_test {
+
+inline COrxPoint3d pt(double x, double y) {
+    return COrxPoint3d(x, y, 0);
+}
+
+inline COrxArrayTempl<double> dims(std::vector<double> const& values) {
+    COrxArrayTempl<double> d;
+    for (double v : values) {
+        d.append(v);
+    }
+    return d;
+}
+
+inline COrxVertexArray outline(int code, std::vector<double> const& values,
+                               COrxVector3d const& offset = COrxVector3d()) {
+    return ORX::g_outline(code, offset, dims(values));
+}
+
+// The points where segments a and b meet, plus every end of one that lies on the other
+// (collinear overlaps, which the line crossing does not report).
+inline COrxPoint3dArray meetingPoints(COrxVertex const& a, COrxVertex const& b) {
+    COrxPoint3dArray pts = a.intersectWith(b, 0);
+    for (COrxPoint3d const& p : {b.startPoint(), b.endPoint()}) {
+        if (a.isPoint(p)) {
+            pts.append(p);
+        }
+    }
+    for (COrxPoint3d const& p : {a.startPoint(), a.endPoint()}) {
+        if (b.isPoint(p)) {
+            pts.append(p);
+        }
+    }
+    return pts;
+}
+
+// True when two segments meet anywhere but at a joint they share (consecutive segments,
+// cyclically, share the end of the first).
+inline bool selfIntersects(COrxVertexArray const& vl) {
+    int const n = vl.len();
+    for (int i = 0; i < n; ++i) {
+        for (int j = i + 1; j < n; ++j) {
+            COrxPoint3dArray joints;
+            if (j == i + 1) {
+                joints.append(vl[i].endPoint());
+            }
+            if ((j + 1) % n == i) {
+                joints.append(vl[j].endPoint());
+            }
+            COrxPoint3dArray const pts = meetingPoints(vl[i], vl[j]);
+            for (int k = 0; k < pts.len(); ++k) {
+                if (joints.indexOf(pts[k]) < 0) {
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+// vl runs through the corners given as (x, y, bulge) triples in this order, each segment
+// with its corner's bulge (within 1e-12) and ending at the next corner, the last one back at
+// the first, all moved by offset.
+inline ::testing::AssertionResult runsThrough(COrxVertexArray const& vl,
+                                              std::vector<double> const& xyb,
+                                              COrxVector3d const& offset = COrxVector3d()) {
+    int const n = static_cast<int>(xyb.size() / 3);
+    if (vl.len() != n) {
+        return ::testing::AssertionFailure() << vl.len() << " segments, expected " << n;
+    }
+    auto corner = [&](int k) { return COrxPoint3d(xyb[3 * k], xyb[3 * k + 1], 0) + offset; };
+    for (int k = 0; k < n; ++k) {
+        COrxVertex const& v = vl[k];
+        COrxPoint3d const start = corner(k), end = corner((k + 1) % n);
+        double const bulge = xyb[3 * k + 2];
+        if (v.startPoint() != start || v.endPoint() != end ||
+            !(std::fabs(v.bulge() - bulge) <= 1e-12)) {
+            return ::testing::AssertionFailure()
+                   << "segment " << k << " starts at (" << v.startPoint().x << ", "
+                   << v.startPoint().y << ") with bulge " << v.bulge() << ", expected (" << start.x
+                   << ", " << start.y << ") with " << bulge;
+        }
+    }
+    return ::testing::AssertionSuccess();
+}
+
+// Closed, with a positive (counter-clockwise) area.
+inline bool closedPositive(COrxVertexArray const& vl) {
+    return vl.isClosed() && ORX::g_vl_area(vl) > 0;
+}
+
+}  // namespace orx_test
+
+#endif  // ORX_TESTS_PROFILES_OUTLINE_CHECKS_H

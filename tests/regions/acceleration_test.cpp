@@ -1,0 +1,111 @@
+// The library skips segment pairs and ray tests that bounding boxes rule out. These tests hold
+// the results to those of the plain loops (reference_algorithms.h), bit for bit and with the
+// same use of rand(), on operands in general position and on shapes full of coincidences.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "reference_algorithms.h"
+#include "shapes.h"
+
+using namespace orx_test;
+
+namespace {
+
+constexpr int kCases = 150;
+
+COrxVertexArray operand(ShapeMaker& make, int n) {
+    return n % 2 ? make.onGrid() : make.outline();
+}
+
+}  // namespace
+
+TEST(AccelerationTest, IntersectionsMatchTheAllPairsLoop) {
+    ShapeMaker make(31u);
+    unsigned const flagSets[] = {0u, COrxVertex::kSkipTangent, COrxVertex::kSkipOwnEnds,
+                                 COrxVertex::kSkipOtherEnds, COrxVertex::kExtended};
+    for (int n = 0; n < kCases; ++n) {
+        COrxVertexArray const a = operand(make, n), b = operand(make, n);
+        for (unsigned flags : flagSets) {
+            COrxPoint3dArray fast, plain;
+            EXPECT_EQ(a.intersectWith(fast, b, flags), plainIntersect(a, b, flags, plain));
+            EXPECT_TRUE(identical(fast, plain)) << "case " << n << " flags " << flags;
+        }
+    }
+}
+
+TEST(AccelerationTest, CuttingMatchesThePlainLoop) {
+    ShapeMaker make(37u);
+    for (int n = 0; n < kCases; ++n) {
+        COrxVertexArray const a = operand(make, n), b = operand(make, n);
+        for (int mode = 1; mode <= 3; ++mode) {
+            COrxVertexArray fastA = a, fastB = b, plainA = a, plainB = b;
+            ORX::g_vl_break(fastA, fastB, mode);
+            plainBreak(plainA, plainB, mode);
+            EXPECT_TRUE(identical(fastA, plainA)) << "case " << n << " mode " << mode;
+            EXPECT_TRUE(identical(fastB, plainB)) << "case " << n << " mode " << mode;
+        }
+    }
+}
+
+TEST(AccelerationTest, PointInPolylineMatchesThePlainRayTest) {
+    ShapeMaker make(41u);
+    for (int n = 0; n < kCases; ++n) {
+        COrxVertexArray const vl = operand(make, n);
+        // Random points, the corners and the midpoints (on the boundary), and points on grid
+        // lines through the corners (rays through corners restart).
+        COrxPoint3dArray probes;
+        for (int k = 0; k < 10; ++k) {
+            probes.append(COrxPoint3d(make.uniform(-6, 8), make.uniform(-6, 8), 0));
+            probes.append(COrxPoint3d(make.pick(12) - 3, make.pick(12) - 3, 0));
+        }
+        for (int k = 0; k < vl.len(); ++k) {
+            probes.append(vl[k].startPoint()).append(vl[k].mid());
+        }
+        for (int k = 0; k < probes.len(); ++k) {
+            for (bool onBoundary : {false, true}) {
+                std::srand(static_cast<unsigned>(n * 1000 + k));
+                bool const plain = plainInside(vl, probes[k], onBoundary);
+                int const plainNext = std::rand();
+                std::srand(static_cast<unsigned>(n * 1000 + k));
+                bool const fast = ORX::g_vl_pt_inside(vl, probes[k], onBoundary);
+                EXPECT_EQ(fast, plain) << "case " << n << " probe " << k;
+                EXPECT_EQ(std::rand(), plainNext) << "case " << n << " probe " << k;
+            }
+        }
+    }
+}
+
+TEST(AccelerationTest, BooleanResultsMatchThePlainAlgorithm) {
+    ShapeMaker make(43u);
+    for (int n = 0; n < kCases; ++n) {
+        COrxVertexArray const a = operand(make, n), b = operand(make, n);
+        for (int op = 0; op < 3; ++op) {
+            auto const o = static_cast<COrxVertexArray::boolOper>(op);
+            std::srand(static_cast<unsigned>(n));
+            COrxVertexArray const plain = plainBool(a, b, o);
+            std::srand(static_cast<unsigned>(n));
+            COrxVertexArray const fast = ORX::g_vl_bool(a, b, o);
+            EXPECT_TRUE(identical(fast, plain)) << "case " << n << " op " << op;
+        }
+    }
+}
+
+TEST(AccelerationTest, LargeOutlinesMatchThePlainAlgorithm) {
+    ShapeMaker make(47u);
+    for (int n = 0; n < 4; ++n) {
+        COrxVertexArray const a = make.wavy(300, 10), b = make.wavy(260, 10);
+        COrxPoint3dArray fast, plain;
+        a.intersectWith(fast, b, 0);
+        plainIntersect(a, b, 0, plain);
+        EXPECT_GT(fast.len(), 2);
+        EXPECT_TRUE(identical(fast, plain)) << "case " << n;
+        for (int op = 0; op < 3; ++op) {
+            auto const o = static_cast<COrxVertexArray::boolOper>(op);
+            std::srand(static_cast<unsigned>(n));
+            COrxVertexArray const slow = plainBool(a, b, o);
+            std::srand(static_cast<unsigned>(n));
+            EXPECT_TRUE(identical(ORX::g_vl_bool(a, b, o), slow)) << "case " << n << " op " << op;
+        }
+    }
+}

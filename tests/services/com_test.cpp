@@ -1,0 +1,305 @@
+// Finding and messaging a running application, against a test server of this build: an
+// automation server under Wine, a D-Bus server on a private session bus natively.
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+#include "orx/services/com.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <thread>
+
+#include "com_test_support.h"
+#include "registry_test_support.h"
+#ifndef _WIN32
+#include "process_test_support.h"
+#endif
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Calls in a row that must all come back right, and how soon a missing server must be told.
+constexpr int kCallsInARow = 1000;
+constexpr auto kAbsentLimit = std::chrono::seconds(1);
+// How long a starting server may take to answer, and how often it is asked.
+constexpr auto kStartPatience = std::chrono::seconds(30);
+constexpr auto kStartPoll = std::chrono::milliseconds(50);
+
+// The answer a test server gives to the library's calls.
+int expected(int code, wchar_t const* text) {
+    return orxtest::answerFor(L"ORX", code, text).number;
+}
+
+// A class id in registry form that no other test uses.
+COrxString uniqueClassId() {
+    static int counter = 0;
+    auto const now = static_cast<unsigned long long>(Clock::now().time_since_epoch().count());
+    COrxString id;
+    id.format(L"{0DE0%04X-0000-4000-8000-%012llX}", ++counter & 0xFFFF, now & 0xFFFFFFFFFFFFull);
+    return id;
+}
+
+std::filesystem::path thisProgram() {
+#ifdef _WIN32
+    wchar_t path[MAX_PATH];
+    return std::filesystem::path(std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH)));
+#else
+    return std::filesystem::read_symlink("/proc/self/exe");
+#endif
+}
+
+#ifndef _WIN32
+// A session bus of the test's own: a dbus-daemon with its own configuration in a new folder,
+// its address handed to the library through DBUS_SESSION_BUS_ADDRESS.
+class PrivateBus {
+public:
+    PrivateBus() {
+        std::filesystem::path const config = m_folder.folder() / "bus.conf";
+        std::FILE* file = std::fopen(config.c_str(), "w");
+        if (file == nullptr) {
+            return;
+        }
+        std::fprintf(file,
+                     "<busconfig><type>session</type><listen>unix:path=%s</listen>"
+                     "<auth>EXTERNAL</auth><policy context=\"default\">"
+                     "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n",
+                     (m_folder.folder() / "bus").c_str());
+        std::fclose(file);
+        int out[2];
+        if (pipe(out) != 0) {
+            return;
+        }
+        m_pid = orxtest::spawnProgram(
+            {"dbus-daemon", "--config-file=" + config.string(), "--nofork", "--print-address=1"},
+            out[1]);
+        close(out[1]);
+        std::string address;
+        char c = 0;
+        while (read(out[0], &c, 1) == 1 && c != '\n') {
+            address += c;
+        }
+        close(out[0]);
+        setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+    }
+    ~PrivateBus() {
+        unsetenv("DBUS_SESSION_BUS_ADDRESS");
+        if (m_pid > 0) {
+            kill(m_pid, SIGTERM);
+            orxtest::waitForExit(m_pid);
+        }
+    }
+    PrivateBus(PrivateBus const&) = delete;
+    PrivateBus& operator=(PrivateBus const&) = delete;
+
+private:
+    orxtest::RegistryFolder m_folder;  // a scratch folder; the registry one is the server's
+    pid_t m_pid = -1;
+};
+#endif
+
+// A test server of a new ProgID, running until destroyed (natively with its own registry
+// folder and bus).
+class TestServer {
+public:
+    TestServer() : m_progId(orxtest::uniqueName(L"OrxTest.Server")), m_classId(uniqueClassId()) {
+        start();
+        auto const end = Clock::now() + kStartPatience;
+        while (ORX::msg_send(m_progId, 0, L"") != 0 && Clock::now() < end) {
+            std::this_thread::sleep_for(kStartPoll);
+        }
+    }
+    ~TestServer() {
+        stop();
+        orxtest::unregisterServer(m_progId, m_classId);
+    }
+    TestServer(TestServer const&) = delete;
+    TestServer& operator=(TestServer const&) = delete;
+
+    COrxString const& progId() const { return m_progId; }
+    bool answers() const { return ORX::msg_send(m_progId, 0, L"") == 0; }
+
+private:
+#ifdef _WIN32
+    void start() {
+        COrxString const quitName = orxtest::uniqueName(L"OrxTestQuit");
+        m_quit = CreateEventW(nullptr, TRUE, FALSE, quitName);
+        std::wstring const program =
+            (thisProgram().parent_path() / "orx_com_test_server.exe").wstring();
+        COrxString commandLine;
+        commandLine.format(
+            L"\"%s\" %s %s %s", program.c_str(), static_cast<wchar_t const*>(m_progId),
+            static_cast<wchar_t const*>(m_classId), static_cast<wchar_t const*>(quitName));
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        PROCESS_INFORMATION process{};
+        if (CreateProcessW(program.c_str(), commandLine.GetBuffer(commandLine.len()), nullptr,
+                           nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
+            m_process = process.hProcess;
+            CloseHandle(process.hThread);
+        }
+    }
+    void stop() {
+        SetEvent(m_quit);
+        if (m_process != nullptr) {
+            WaitForSingleObject(m_process, 10000);
+            CloseHandle(m_process);
+        }
+        CloseHandle(m_quit);
+    }
+
+    HANDLE m_quit = nullptr;
+    HANDLE m_process = nullptr;
+#else
+    void start() {
+        COrxString busName(L"com.kelvara.progid.");
+        busName += COrxString(m_progId).makeLower() + L"._31";  // CurVer names <progId>.1
+        m_pid = orxtest::spawnProgram(
+            {orxtest::programBeside("orx_dbus_test_server"), orxtest::narrow(m_progId),
+             orxtest::narrow(m_classId), orxtest::narrow(busName)},
+            -1);
+    }
+    void stop() {
+        if (m_pid > 0) {
+            kill(m_pid, SIGTERM);
+            orxtest::waitForExit(m_pid);
+        }
+    }
+
+    orxtest::RegistryFolder m_registry;
+    PrivateBus m_bus;
+    pid_t m_pid = -1;
+#endif
+    COrxString m_progId;
+    COrxString m_classId;
+};
+
+// The server is first reached from a thread without COM, as msg_send must manage that
+// alone; the tests then call from an apartment, as client applications do (under Wine that
+// saves setting one up for every call of the long series).
+class MessagingTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        s_server = new TestServer;
+#ifdef _WIN32
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+#endif
+    }
+    static void TearDownTestSuite() {
+#ifdef _WIN32
+        CoUninitialize();
+#endif
+        delete s_server;
+        s_server = nullptr;
+    }
+    void SetUp() override {
+        ASSERT_TRUE(s_server->answers()) << "the test server did not start";
+    }
+
+    static TestServer* s_server;
+};
+
+TestServer* MessagingTest::s_server = nullptr;
+
+// Milliseconds msg_send takes to give up.
+template <class Send>
+long long millisecondsFor(Send send) {
+    auto const start = Clock::now();
+    EXPECT_EQ(send(), -1);
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
+}
+
+}  // namespace
+
+TEST_F(MessagingTest, EveryCallGetsTheRunningServersAnswer) {
+    COrxString const progId = s_server->progId();
+    int wrong = 0;
+    for (int i = 0; i < kCallsInARow; ++i) {
+        int const code = i - kCallsInARow / 2;
+        COrxString text;
+        text.format(L"call %d", i).rfill(static_cast<unsigned int>(6 + i % 40), L'x');
+        wrong += ORX::msg_send(progId, code, text) != expected(code, text) ? 1 : 0;
+    }
+    EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(ORX::msg_send(progId, 7, L"Gr\u00fc\u00dfe \u20ac"),
+              expected(7, L"Gr\u00fc\u00dfe \u20ac"));
+    EXPECT_EQ(ORX::msg_send(progId + L".1", 3, L"by version"), expected(3, L"by version"));
+    EXPECT_EQ(ORX::msg_send(progId, 1, L"text"), -1);  // an answer of another type
+    EXPECT_EQ(ORX::msg_send(progId, 1, L"fail"), -1);  // the call failed
+}
+
+TEST_F(MessagingTest, MissingArgumentsServersOrBusGiveMinusOneAtOnce) {
+    EXPECT_EQ(ORX::msg_send(nullptr, 1, L"x"), -1);
+    EXPECT_EQ(ORX::msg_send(s_server->progId(), 1, nullptr), -1);
+
+    COrxString const unknown = orxtest::uniqueName(L"OrxTest.Unknown");
+    EXPECT_LT(millisecondsFor([&] { return ORX::msg_send(unknown, 1, L"x"); }),
+              std::chrono::milliseconds(kAbsentLimit).count());
+    COrxString const stopped = orxtest::uniqueName(L"OrxTest.Stopped");
+    COrxString const classId = uniqueClassId();
+    ASSERT_TRUE(orxtest::registerServer(stopped, classId, nullptr));
+    EXPECT_LT(millisecondsFor([&] { return ORX::msg_send(stopped, 1, L"x"); }),
+              std::chrono::milliseconds(kAbsentLimit).count());
+    orxtest::unregisterServer(stopped, classId);
+#ifndef _WIN32
+    COrxString const address = orxtest::getEnv(L"DBUS_SESSION_BUS_ADDRESS");
+    COrxString const runtime = orxtest::getEnv(L"XDG_RUNTIME_DIR");
+    orxtest::setEnv(L"DBUS_SESSION_BUS_ADDRESS", nullptr);
+    orxtest::setEnv(L"XDG_RUNTIME_DIR", L"/nonexistent");
+    EXPECT_EQ(ORX::msg_send(s_server->progId(), 1, L"no bus"), -1);
+    orxtest::setEnv(L"DBUS_SESSION_BUS_ADDRESS", address);
+    orxtest::setEnv(L"XDG_RUNTIME_DIR", runtime);
+#endif
+}
+
+TEST_F(MessagingTest, DispatchFromProgIdGivesTheServerWhereThereIsOne) {
+    IDispatch* server = reinterpret_cast<IDispatch*>(&server);
+    EXPECT_LT(ORX::dispatchFromProgID(s_server->progId(), nullptr), 0);
+#ifdef _WIN32
+    EXPECT_EQ(ORX::dispatchFromProgID(s_server->progId(), &server), S_OK);
+    ASSERT_NE(server, nullptr);
+    server->Release();
+    EXPECT_LT(ORX::dispatchFromProgID(orxtest::uniqueName(L"OrxTest.Unknown"), &server), 0);
+    EXPECT_EQ(server, nullptr);
+#else
+    EXPECT_EQ(ORX::dispatchFromProgID(s_server->progId(), &server),
+              static_cast<long>(static_cast<std::int32_t>(0x80004001u)));  // E_NOTIMPL
+    EXPECT_EQ(server, nullptr);
+#endif
+}
+
+using ServerLookupTest = orxtest::RegistryTest;
+
+TEST_F(ServerLookupTest, ServerFromProgIdFindsTheRegisteredProgram) {
+    COrxString const progId = orxtest::uniqueName(L"OrxTest.Lookup");
+    COrxString const classId = uniqueClassId();
+    COrxString const program = thisProgram().wstring().c_str();
+    COrxString found(L"untouched");
+    EXPECT_FALSE(ORX::serverFromProgID(nullptr, found));
+    EXPECT_FALSE(ORX::serverFromProgID(progId, found));
+    EXPECT_EQ(found, L"untouched");
+
+    ASSERT_TRUE(orxtest::registerServer(progId, classId, program));
+    EXPECT_TRUE(ORX::serverFromProgID(progId, found));  // through CurVer, quotes removed
+    EXPECT_EQ(found, program);
+    EXPECT_TRUE(ORX::serverFromProgID(progId + L".1", found));
+    EXPECT_EQ(found, program);
+
+    // A server whose file is gone is looked for under Wow6432Node.
+    COrxString const gone = program + L".gone";
+    ASSERT_TRUE(orxtest::setClassesText(L"CLSID\\" + classId + L"\\LocalServer32",
+                                        COrxString(gone).quote()));
+    found = L"untouched";
+    EXPECT_FALSE(ORX::serverFromProgID(progId, found));
+    EXPECT_EQ(found, L"untouched");
+    ASSERT_TRUE(orxtest::setClassesText(L"Wow6432Node\\CLSID\\" + classId + L"\\LocalServer32",
+                                        L"\"C:\\32-bit\\server.exe\""));
+    EXPECT_TRUE(ORX::serverFromProgID(progId, found));
+    EXPECT_EQ(found, L"C:\\32-bit\\server.exe");
+    orxtest::unregisterServer(progId, classId);
+}

@@ -1,0 +1,67 @@
+// Linux tests that start other programs: the programs built beside the test, started with the
+// test's environment and, when asked, their output in a pipe.
+#ifndef ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H
+#define ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H
+
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+extern char** environ;
+
+namespace orxtest {
+
+// A program of the build, in the folder of the running test.
+inline std::string programBeside(char const* name) {
+    return (std::filesystem::read_symlink("/proc/self/exe").parent_path() / name).string();
+}
+
+// Starts arguments[0] (looked up in PATH when it has no "/"), its standard output going to
+// `output` unless that is -1. The process id, or -1.
+inline pid_t spawnProgram(std::vector<std::string> arguments, int output) {
+    std::vector<char*> argv;
+    for (std::string& argument : arguments) {
+        argv.push_back(argument.data());
+    }
+    argv.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    if (output != -1) {
+        posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    }
+    pid_t pid = -1;
+    if (posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) {
+        pid = -1;
+    }
+    posix_spawn_file_actions_destroy(&actions);
+    return pid;
+}
+
+// Everything a pipe delivers until its writers have closed it.
+inline std::string readAll(int input) {
+    std::string text;
+    char buffer[4096];
+    ssize_t got = 0;
+    while ((got = read(input, buffer, sizeof buffer)) > 0) {
+        text.append(buffer, static_cast<std::size_t>(got));
+    }
+    return text;
+}
+
+// The exit status, or 128 + the signal that ended the process.
+inline int waitForExit(pid_t pid) {
+    int status = 0;
+    if (waitpid(pid, &status, 0) != pid) {
+        return -1;
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+}  // namespace orxtest
+
+#endif  // ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H

@@ -1,0 +1,175 @@
+// What only the Linux registry has: its folders, and several processes sharing a hive, one
+// of them killed while it writes.
+#include <sqlite3.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "orx/services/registry.h"
+#include "process_test_support.h"
+#include "registry_test_support.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Writers sharing the hive, and how long they write.
+constexpr int kWorkers = 4;
+constexpr int kShareMilliseconds = 3000;
+// Kill trials, and how long a killed writer may write first.
+constexpr int kKillTrials = 5;
+constexpr int kWriteBeforeKillMs = 300;
+
+// A running orx_registry_worker whose output is collected.
+class Worker {
+public:
+    explicit Worker(std::vector<std::string> arguments) {
+        int out[2];
+        if (pipe(out) != 0) {
+            return;
+        }
+        arguments.insert(arguments.begin(), orxtest::programBeside("orx_registry_worker"));
+        m_pid = orxtest::spawnProgram(arguments, out[1]);
+        close(out[1]);
+        m_output = out[0];
+    }
+    ~Worker() { close(m_output); }
+    Worker(Worker const&) = delete;
+    Worker& operator=(Worker const&) = delete;
+
+    bool started() const { return m_pid > 0; }
+    void kill() const { ::kill(m_pid, SIGKILL); }
+
+    // Waits for the end; the exit status and everything printed.
+    int finish(std::string& output) const {
+        output = orxtest::readAll(m_output);
+        return orxtest::waitForExit(m_pid);
+    }
+
+private:
+    pid_t m_pid = -1;
+    int m_output = -1;
+};
+
+class RegistryProcessesTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ORX::regBasePathSet(L"Software\\OrxWorker");
+        ORX::curVerSet(L"1");
+    }
+    void TearDown() override { ORX::curVerSet(nullptr); }
+
+    std::string hiveFile() const { return (m_folder.folder() / "user.db").string(); }
+
+    orxtest::RegistryFolder m_folder;
+};
+
+bool passesIntegrityCheck(std::string const& file) {
+    sqlite3* db = nullptr;
+    std::string result;
+    if (sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
+        sqlite3_exec(
+            db, "PRAGMA integrity_check",
+            [](void* text, int, char** values, char**) {
+                *static_cast<std::string*>(text) += values[0] != nullptr ? values[0] : "";
+                return 0;
+            },
+            &result, nullptr);
+    }
+    sqlite3_close(db);
+    return result == "ok";
+}
+
+// The last number the worker printed in full (the last write it saw return), or -1.
+long lastPrinted(std::string output) {
+    output.erase(output.rfind('\n') + 1);  // a line cut short by the kill
+    if (output.empty()) {
+        return -1;
+    }
+    output.pop_back();
+    return std::stol(output.substr(output.rfind('\n') + 1));
+}
+
+}  // namespace
+
+TEST(RegistryFoldersTest, HivesFollowTheXdgConfigFolders) {
+    orxtest::RegistryFolder scratch;  // also clears ORX_REGISTRY_DIR below
+    fs::path const folder = scratch.folder();
+    ::unsetenv("ORX_REGISTRY_DIR");
+    ::setenv("XDG_CONFIG_HOME", (folder / "home").c_str(), 1);
+    ::setenv("XDG_CONFIG_DIRS", ("relative:" + (folder / "system").string() + ":/etc/xdg").c_str(),
+             1);
+    ORX::regBasePathSet(L"Software\\Folders");
+    ORX::curVerSet(L"1");
+
+    EXPECT_TRUE(ORX::regWrite(L"App", L"User", 1ul));
+    EXPECT_TRUE(ORX::regWrite(orxtest::Key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software")),
+                              L"Machine", 2ul));
+    EXPECT_TRUE(ORX::regWrite(orxtest::Key(ORX::regCreateKey(HKEY_CLASSES_ROOT, L"Orx.Test")),
+                              nullptr, L"class", false));
+    EXPECT_TRUE(fs::exists(folder / "home/orx/registry/user.db"));
+    EXPECT_TRUE(fs::exists(folder / "system/orx/registry/machine.db"));
+    EXPECT_TRUE(fs::exists(folder / "system/orx/registry/classes.db"));
+
+    // The folder is looked up at every call; a hive that was never written is empty.
+    ::setenv("ORX_REGISTRY_DIR", (folder / "other").c_str(), 1);
+    unsigned long number = 0;
+    EXPECT_FALSE(ORX::regRead(L"App", L"User", number));
+    EXPECT_FALSE(fs::exists(folder / "other"));
+    ::unsetenv("XDG_CONFIG_HOME");
+    ::unsetenv("XDG_CONFIG_DIRS");
+    ORX::curVerSet(nullptr);
+}
+
+TEST_F(RegistryProcessesTest, ConcurrentWritersLoseNothingAndReadNothingTorn) {
+    std::vector<std::unique_ptr<Worker>> workers;
+    for (int id = 0; id < kWorkers; ++id) {
+        workers.push_back(std::make_unique<Worker>(std::vector<std::string>{
+            "share", std::to_string(id), std::to_string(kShareMilliseconds)}));
+        ASSERT_TRUE(workers.back()->started());
+    }
+    std::vector<int> rounds;
+    for (auto const& worker : workers) {
+        std::string output;
+        EXPECT_EQ(worker->finish(output), 0);
+        rounds.push_back(std::atoi(output.c_str()));
+    }
+    for (int id = 0; id < kWorkers; ++id) {
+        EXPECT_GT(rounds[static_cast<std::size_t>(id)], 0);
+        for (int round = 0; round < rounds[static_cast<std::size_t>(id)]; ++round) {
+            COrxString name;
+            name.format(L"Own\\%d_%d", id, round);
+            unsigned long number = 0;
+            ASSERT_TRUE(ORX::regRead(L"Worker", name, number)) << id << " " << round;
+            ASSERT_EQ(number, static_cast<unsigned long>(round));
+        }
+    }
+    EXPECT_TRUE(passesIntegrityCheck(hiveFile()));
+}
+
+TEST_F(RegistryProcessesTest, AKilledWriterLeavesEveryCommittedValue) {
+    for (int trial = 0; trial < kKillTrials; ++trial) {
+        Worker worker({"endless"});
+        ASSERT_TRUE(worker.started());
+        std::this_thread::sleep_for(std::chrono::milliseconds(kWriteBeforeKillMs));
+        worker.kill();
+        std::string output;
+        EXPECT_EQ(worker.finish(output), 128 + SIGKILL);
+
+        ASSERT_TRUE(passesIntegrityCheck(hiveFile())) << "trial " << trial;
+        long const committed = lastPrinted(output);
+        EXPECT_GT(committed, 0) << "trial " << trial;
+        for (long n = 0; n <= committed; ++n) {
+            COrxString name;
+            name.format(L"K%ld", n);
+            unsigned long number = 0;
+            ASSERT_TRUE(ORX::regRead(L"Worker", name, number)) << "trial " << trial << " K" << n;
+            ASSERT_EQ(number, static_cast<unsigned long>(n));
+        }
+    }
+}
