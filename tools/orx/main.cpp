@@ -1,23 +1,97 @@
-// orx: the library's geometry from the command line.
+// orx: the library's profile outlines, boolean operations and regions from the command line.
+//
+// Every command reads DXF or JSON and writes DXF, JSON or SVG, chosen by the file name. Bad
+// input ends the program with one line on standard error that names the file and the line or
+// entity, and exit status 2; so do usage errors.
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <exception>
+#include <functional>
+#include <string>
+#include <vector>
 
-#include "orx/orx.h"
+#include "commands.h"
+#include "tool_error.h"
 
 namespace {
 
-char const* platformName() {
-#if defined(_WIN32)
-    return "Windows x64";
-#else
-    return "Linux x86_64";
-#endif
+using orxtool::kExitBadInput;
+
+struct Arguments {
+    int code = 0;
+    std::string dims, offset, operation, first, second, output, input;
+    std::vector<std::string> inputs;
+    bool markers = false;
+    std::string directory = "orx-demo";
+};
+
+void addOperands(CLI::App* command, Arguments& args) {
+    command->add_option("operation", args.operation, "union, diff or sect")->required();
+    command->add_option("A", args.first, "first operand (.dxf or .json)")->required();
+    command->add_option("B", args.second, "second operand (.dxf or .json)")->required();
+    command->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
 }
 
-int printVersion() {
-    std::printf("%ls\n%s\n", ORX::version(), platformName());
-    return 0;
+// Declares the commands; `run` is set to the one chosen.
+void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) {
+    app.add_subcommand("version", "Print the library version and the build's platform")
+        ->callback([&] { run = [] { return orxtool::runVersion(); }; });
+
+    CLI::App* outline = app.add_subcommand("outline", "Write the outline of a profile code");
+    outline->add_option("CODE", args.code, "profile code (see orx demo)")->required();
+    outline->add_option("--dims", args.dims, "dimensions d0,d1,...");
+    outline->add_option("--offset", args.offset, "translation X,Y");
+    outline->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
+    outline->callback([&] {
+        run = [&] { return orxtool::runOutline(args.code, args.dims, args.offset, args.output); };
+    });
+
+    CLI::App* boolean =
+        app.add_subcommand("bool", "Combine the first closed polyline of each input");
+    addOperands(boolean, args);
+    boolean->callback([&] {
+        run = [&] {
+            return orxtool::runBool(args.operation, args.first, args.second, args.output);
+        };
+    });
+
+    CLI::App* region = app.add_subcommand("region", "Combine the regions of each input");
+    addOperands(region, args);
+    region->callback([&] {
+        run = [&] {
+            return orxtool::runRegion(args.operation, args.first, args.second, args.output);
+        };
+    });
+
+    CLI::App* info = app.add_subcommand("info", "Report segments, lengths, areas and regions");
+    info->add_option("FILE", args.input, "input (.dxf or .json)")->required();
+    info->callback([&] { run = [&] { return orxtool::runInfo(args.input); }; });
+
+    CLI::App* convert = app.add_subcommand("convert", "Write the polylines in another format");
+    convert->add_option("FILE", args.input, "input (.dxf or .json)")->required();
+    convert->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
+    convert->callback([&] { run = [&] { return orxtool::runConvert(args.input, args.output); }; });
+
+    CLI::App* render = app.add_subcommand("render", "Draw files as one SVG picture");
+    render->add_option("FILE", args.inputs, "inputs (.dxf or .json)")->required();
+    render->add_option("-o,--output", args.output, "picture (.svg)")->required();
+    render->add_flag("-m,--markers", args.markers, "mark every vertex");
+    render->callback(
+        [&] { run = [&] { return orxtool::runRender(args.inputs, args.output, args.markers); }; });
+
+    CLI::App* demo = app.add_subcommand("demo", "Write a gallery of outlines and operations");
+    demo->add_option("DIR", args.directory, "folder of the gallery (default orx-demo)");
+    demo->callback([&] { run = [&] { return orxtool::runDemo(args.directory); }; });
+}
+
+bool isCommand(CLI::App& app, std::string const& name) {
+    for (CLI::App const* command : app.get_subcommands({})) {
+        if (command->get_name() == name) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -25,9 +99,32 @@ int printVersion() {
 int main(int argc, char** argv) {
     CLI::App app{"orx: profile outlines, booleans and regions of bulge polylines"};
     app.require_subcommand(1);
-    int status = 0;
-    app.add_subcommand("version", "Print the library version and the build's platform")
-        ->callback([&status] { status = printVersion(); });
-    CLI11_PARSE(app, argc, argv);
-    return status;
+    // File names may start with '/' (Wine, MSYS shells); CLI11 would take them for options
+    // on Windows. Set before the commands are declared, which inherit it.
+    app.allow_windows_style_options(false);
+    Arguments args;
+    std::function<int()> run;
+    declareCommands(app, args, run);
+    if (argc > 1 && argv[1][0] != '-' && !isCommand(app, argv[1])) {
+        std::fprintf(stderr, "orx: unknown command '%s' (see orx --help)\n", argv[1]);
+        return kExitBadInput;
+    }
+    try {
+        app.parse(argc, argv);
+    } catch (CLI::ParseError const& e) {
+        if (e.get_exit_code() == 0) {
+            return app.exit(e);  // --help
+        }
+        std::fprintf(stderr, "orx: %s (see orx --help)\n", e.what());
+        return kExitBadInput;
+    }
+    try {
+        return run ? run() : kExitBadInput;
+    } catch (orxtool::ToolError const& e) {
+        std::fprintf(stderr, "orx: %s\n", e.what());
+        return kExitBadInput;
+    } catch (std::exception const& e) {
+        std::fprintf(stderr, "orx: internal error: %s\n", e.what());
+        return 1;
+    }
 }

@@ -1,0 +1,197 @@
+// End-to-end tests of the orx commands on small files: what each command reports and
+// writes, and that DXF and JSON carry points and bulges through round trips unchanged.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "tool_runner.h"
+
+namespace {
+
+using nlohmann::json;
+
+constexpr double kPi = 3.141592653589793;
+
+TEST(OrxVersionTest, PrintsLibraryVersionAndPlatform) {
+    Scratch scratch;
+    ToolRun run = scratch.orx({"version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "2017.0\nLinux x86_64\n");
+}
+
+TEST(OrxInfoTest, ReportsSegmentsLengthsAreasExtentsAndRegions) {
+    Scratch scratch;
+    ToolRun run = scratch.orx({"info", dataFile("plate.json")});
+    ASSERT_EQ(run.status, 0) << run.err;
+    char const* expected[] = {
+        ": 4 polylines, 1 region\n",
+        "polyline 1: 4 segments (0 arcs), closed, counter-clockwise\n  length 32\n  area 60\n"
+        "  extents (0, 0) - (10, 6)\n",
+        // A circle of two half arcs: its area is the two circular segments.
+        "polyline 2: 2 segments (2 arcs), closed, counter-clockwise\n  length 6.283185307\n"
+        "  area 3.141592654\n  extents (2, 2) - (4, 4)\n",
+        // The arched window: 2 x 2 plus the segment of a quarter arc of radius sqrt 2, whose
+        // top reaches 4 + sqrt 2 - 1.
+        "polyline 3: 4 segments (1 arc), closed, counter-clockwise\n  length 8.221441469\n"
+        "  area 4.570796327\n  extents (6, 2) - (8, 4.414213562)\n",
+        "polyline 4: 2 segments (1 arc), open\n",
+        "region 1: outer polyline 1, holes 2, 3: area 52.28761102\n",
+    };
+    for (char const* part : expected) {
+        EXPECT_NE(run.out.find(part), std::string::npos) << part << "\nin\n" << run.out;
+    }
+}
+
+TEST(OrxInfoTest, ClockwiseLoopHasNegativeArea) {
+    Scratch scratch;
+    ToolRun run = scratch.orx({"info", dataFile("square-b-clockwise.json")});
+    EXPECT_NE(run.out.find("closed, clockwise\n  length 8\n  area -4\n"), std::string::npos)
+        << run.out;
+    EXPECT_NE(run.out.find("region 1: outer polyline 1: area 4\n"), std::string::npos);
+}
+
+TEST(OrxDxfTest, ReadsPolylinesAndCountsSkippedEntities) {
+    Scratch scratch;
+    ToolRun run = scratch.orx({"info", dataFile("square.dxf")});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("square.dxf: skipped 2 entities (1 CIRCLE, 1 LINE)"), std::string::npos)
+        << run.err;
+    // 4 x 4 with a half disc of radius 2 on the right side.
+    EXPECT_NE(run.out.find("area 22.28318531\n  extents (0, 0) - (6, 4)"), std::string::npos)
+        << run.out;
+}
+
+TEST(OrxDxfTest, PolylineSeenFromBelowIsMirroredIntoThePlane) {
+    Scratch scratch;
+    ASSERT_EQ(scratch.orx({"convert", dataFile("mirrored.dxf"), "-o", "m.json"}).status, 0);
+    json vertices = json::parse(scratch.read("m.json"))[0]["vertices"];
+    EXPECT_EQ(vertices[0]["x"], -1.0);
+    EXPECT_EQ(vertices[0]["bulge"], -0.5);
+    EXPECT_EQ(vertices[1]["x"], -3.0);
+}
+
+TEST(OrxDxfTest, AcceptsWindowsLineEndings) {
+    Scratch scratch;
+    std::string text = scratch.orx({"convert", dataFile("square-a.json"), "-o", "a.dxf"}).out;
+    std::string dxf = scratch.read("a.dxf"), crlf;
+    for (char c : dxf) {
+        crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    }
+    scratch.write("crlf.dxf", crlf);
+    ToolRun run = scratch.orx({"info", "crlf.dxf"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("area 4\n"), std::string::npos);
+}
+
+// Values that a decimal round trip with too few digits would change.
+TEST(OrxRoundTripTest, DxfAndJsonPreservePointsAndBulgesExactly) {
+    Scratch scratch;
+    json original =
+        json::parse(scratch.orx({"convert", dataFile("awkward.json"), "-o", "0.json"}).status == 0
+                        ? scratch.read("0.json")
+                        : "null");
+    ASSERT_TRUE(original.is_array());
+    ASSERT_EQ(scratch.orx({"convert", "0.json", "-o", "1.dxf"}).status, 0);
+    ASSERT_EQ(scratch.orx({"convert", "1.dxf", "-o", "2.json"}).status, 0);
+    ASSERT_EQ(scratch.orx({"convert", "2.json", "-o", "3.dxf"}).status, 0);
+    EXPECT_EQ(scratch.read("1.dxf"), scratch.read("3.dxf"));
+    json again = json::parse(scratch.read("2.json"));
+    EXPECT_EQ(again, original);
+
+    json source = json::parse(std::ifstream(dataFile("awkward.json")));
+    for (std::size_t i = 0; i < source.size(); ++i) {
+        EXPECT_EQ(again[i]["closed"], source[i]["closed"]);
+        for (std::size_t j = 0; j < source[i]["vertices"].size(); ++j) {
+            for (char const* key : {"x", "y", "bulge"}) {
+                EXPECT_EQ(again[i]["vertices"][j][key].get<double>(),
+                          source[i]["vertices"][j][key].get<double>())
+                    << "polyline " << i << " vertex " << j << " " << key;
+            }
+        }
+    }
+}
+
+struct AreaCase {
+    char const* name;
+    std::vector<std::string> command;  // the operation and the two inputs
+    double area;                       // of all result regions together
+};
+
+void PrintTo(AreaCase const& c, std::ostream* os) {
+    *os << c.name;
+}
+
+class OrxOperationTest : public testing::TestWithParam<AreaCase> {};
+
+// Results are checked through `orx info` of the written file, so each case also reads back
+// what the operation wrote.
+TEST_P(OrxOperationTest, ResultHasTheExpectedArea) {
+    Scratch scratch;
+    std::vector<std::string> args = GetParam().command;
+    for (std::size_t i = 2; i < args.size(); ++i) {
+        args[i] = dataFile(args[i]);
+    }
+    for (char const* output : {"r.json", "r.dxf"}) {
+        std::vector<std::string> withOutput = args;
+        withOutput.insert(withOutput.end(), {"-o", output});
+        ToolRun run = scratch.orx(withOutput);
+        ASSERT_EQ(run.status, 0) << run.err;
+        ToolRun info = scratch.orx({"info", output});
+        EXPECT_NEAR(regionAreaSum(info.out), GetParam().area, 1e-6) << info.out;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Booleans, OrxOperationTest,
+    testing::Values(
+        // The second square runs clockwise; the tool orients both operands alike.
+        AreaCase{"SquaresUnion", {"bool", "union", "square-a.json", "square-b-clockwise.json"}, 7},
+        AreaCase{"SquaresDiff", {"bool", "diff", "square-a.json", "square-b-clockwise.json"}, 3},
+        AreaCase{"SquaresSect", {"bool", "sect", "square-a.json", "square-b-clockwise.json"}, 1},
+        // A circle of radius 1 about the square's corner (2, 2): a quarter of it inside.
+        AreaCase{"CircleUnion", {"bool", "union", "square-a.json", "circle.json"}, 4 + 0.75 * kPi},
+        AreaCase{"CircleDiff", {"bool", "diff", "square-a.json", "circle.json"}, 4 - 0.25 * kPi},
+        AreaCase{"CircleSect", {"bool", "sect", "square-a.json", "circle.json"}, 0.25 * kPi},
+        AreaCase{"DisjointSect", {"bool", "sect", "square-a.json", "cutter.json"}, 0}),
+    [](testing::TestParamInfo<AreaCase> const& p) { return std::string(p.param.name); });
+
+// The plate [0,10] x [0,6] with a circular hole (area pi) on the left and an arched window
+// (area 2 + pi/2 + 2) on the right; the cutter covers x from 5 to 12.
+INSTANTIATE_TEST_SUITE_P(
+    Regions, OrxOperationTest,
+    testing::Values(
+        AreaCase{"PlateDiff", {"region", "diff", "plate.json", "cutter.json"}, 30 - kPi},
+        AreaCase{"PlateSect", {"region", "sect", "plate.json", "cutter.json"}, 27 - kPi / 2},
+        AreaCase{"PlateUnion", {"region", "union", "plate.json", "cutter.json"}, 56 + 30 - kPi},
+        AreaCase{"CutterMinusPlate",
+                 {"region", "diff", "cutter.json", "plate.json"},
+                 56 - 30 + (4 + kPi / 2 - 1)}),
+    [](testing::TestParamInfo<AreaCase> const& p) { return std::string(p.param.name); });
+
+TEST(OrxRenderTest, DrawsTrueArcsRegionsAndMarkers) {
+    Scratch scratch;
+    ToolRun run = scratch.orx(
+        {"render", dataFile("plate.json"), dataFile("square.dxf"), "--markers", "-o", "p.svg"});
+    ASSERT_EQ(run.status, 0) << run.err;
+    std::string svg = scratch.read("p.svg");
+    // plate.json: one region (outer loop and two holes) and one open polyline; square.dxf:
+    // one region. Arcs stay arcs: 2 + 1 + 1 in the plate file, 1 in the square.
+    auto count = [&svg](std::string const& what) {
+        std::size_t n = 0;
+        for (std::size_t at = svg.find(what); at != std::string::npos;
+             at = svg.find(what, at + 1)) {
+            ++n;
+        }
+        return n;
+    };
+    EXPECT_EQ(count("class=\"region\""), 2u);
+    EXPECT_EQ(count("class=\"polyline\""), 1u);
+    EXPECT_EQ(count(" A "), 5u);
+    EXPECT_EQ(count("fill-rule=\"evenodd\""), 2u);
+    // Closed loops mark each corner once, the open polyline its three points: 4+2+4+3 and 4.
+    EXPECT_EQ(count("class=\"marker\""), 17u);
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+#include "json_format.h"
+
+#include <algorithm>
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "tool_error.h"
+
+namespace orxtool {
+
+namespace {
+
+using nlohmann::json;
+
+std::size_t lineOfOffset(std::string const& text, std::size_t offset) {
+    offset = std::min(offset, text.size());
+    return 1 + static_cast<std::size_t>(std::count(text.begin(), text.begin() + offset, '\n'));
+}
+
+class ListReader {
+public:
+    ListReader(std::string const& file, std::size_t polyline)
+        : m_where(file + ": polyline " + std::to_string(polyline)) {}
+
+    VertexList read(json const& item) const {
+        if (!item.is_object()) {
+            fail("is not an object with \"vertices\" and \"closed\"");
+        }
+        VertexList list;
+        if (item.contains("closed")) {
+            if (!item["closed"].is_boolean()) {
+                fail("\"closed\" is not true or false");
+            }
+            list.closed = item["closed"].get<bool>();
+        }
+        if (!item.contains("vertices") || !item["vertices"].is_array()) {
+            fail("has no list \"vertices\"");
+        }
+        json const& vertices = item["vertices"];
+        for (std::size_t j = 0; j < vertices.size(); ++j) {
+            list.points.push_back(point(vertices[j], j + 1));
+        }
+        if (list.points.size() < 2) {
+            fail("has fewer than two vertices");
+        }
+        return list;
+    }
+
+private:
+    VertexList::Point point(json const& vertex, std::size_t index) const {
+        std::string where = "vertex " + std::to_string(index);
+        if (!vertex.is_object()) {
+            fail(where + " is not an object {\"x\", \"y\", \"bulge\"}");
+        }
+        VertexList::Point p;
+        p.x = number(vertex, "x", where, true);
+        p.y = number(vertex, "y", where, true);
+        p.bulge = number(vertex, "bulge", where, false);
+        return p;
+    }
+
+    double number(json const& vertex, char const* key, std::string const& where,
+                  bool required) const {
+        if (!vertex.contains(key)) {
+            if (required) {
+                fail(where + " has no \"" + key + "\"");
+            }
+            return 0.0;
+        }
+        json const& value = vertex[key];
+        // A number too large for a double reads as infinity; refuse it like a non-number.
+        if (!value.is_number() || !std::isfinite(value.get<double>())) {
+            fail(where + ": \"" + key + "\" is not a finite number");
+        }
+        return value.get<double>();
+    }
+
+    [[noreturn]] void fail(std::string const& what) const { throw ToolError(m_where + " " + what); }
+
+    std::string m_where;
+};
+
+}  // namespace
+
+std::vector<VertexList> readJson(std::string const& text, std::string const& file) {
+    json document;
+    try {
+        document = json::parse(text);
+    } catch (json::parse_error const& e) {
+        throw ToolError(file + ":" + std::to_string(lineOfOffset(text, e.byte)) +
+                        ": not valid JSON");
+    } catch (json::exception const&) {
+        throw ToolError(file + ": not valid JSON (a number out of range)");
+    }
+    if (!document.is_array()) {
+        throw ToolError(file + ": expected a list of polylines");
+    }
+    std::vector<VertexList> lists;
+    for (std::size_t i = 0; i < document.size(); ++i) {
+        lists.push_back(ListReader(file, i + 1).read(document[i]));
+    }
+    return lists;
+}
+
+std::string writeJson(std::vector<VertexList> const& lists) {
+    json document = json::array();
+    for (VertexList const& list : lists) {
+        json vertices = json::array();
+        for (VertexList::Point const& p : list.points) {
+            vertices.push_back({{"x", p.x}, {"y", p.y}, {"bulge", p.bulge}});
+        }
+        document.push_back({{"closed", list.closed}, {"vertices", vertices}});
+    }
+    return document.dump(1) + "\n";
+}
+
+}  // namespace orxtool

@@ -1,0 +1,31 @@
+// JSON: the tool's own exchange form of polylines.
+//
+//     [
+//       {"closed": true,
+//        "vertices": [{"x": 0, "y": 0, "bulge": 0}, {"x": 4, "y": 0, "bulge": 1}, ...]},
+//       ...
+//     ]
+//
+// A list of polylines; each has a list of vertices and a closed flag (false when absent).
+// The bulge of a vertex belongs to the segment that leaves it (0 when absent): tan(theta/4)
+// of the arc's included angle, positive counter-clockwise; on the last vertex of an open
+// polyline it is 0. Numbers are written with round-trip precision.
+#ifndef ORX_TOOL_JSON_FORMAT_H
+#define ORX_TOOL_JSON_FORMAT_H
+
+#include <string>
+#include <vector>
+
+#include "drawing.h"
+
+namespace orxtool {
+
+// Throws ToolError naming the file and the line (syntax) or the polyline and vertex (content)
+// for text that is not JSON of the form above, non-numbers and numbers out of range.
+std::vector<VertexList> readJson(std::string const& text, std::string const& file);
+
+std::string writeJson(std::vector<VertexList> const& lists);
+
+}  // namespace orxtool
+
+#endif  // ORX_TOOL_JSON_FORMAT_H

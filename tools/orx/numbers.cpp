@@ -1,0 +1,93 @@
+#include "numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+#include "tool_error.h"
+
+namespace orxtool {
+
+namespace {
+
+std::string_view trimmed(std::string_view text) {
+    char const* blanks = " \t\r\n";
+    std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    std::size_t last = text.find_last_not_of(blanks);
+    return text.substr(first, last - first + 1);
+}
+
+}  // namespace
+
+std::optional<double> parseFinite(std::string_view text) {
+    text = trimmed(text);
+    if (!text.empty() && text.front() == '+') {
+        text.remove_prefix(1);
+    }
+    if (text.empty()) {
+        return std::nullopt;
+    }
+    double value = 0.0;
+    char const* end = text.data() + text.size();
+    auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (ec != std::errc() || ptr != end || !std::isfinite(value)) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<long> parseInteger(std::string_view text) {
+    text = trimmed(text);
+    long value = 0;
+    char const* end = text.data() + text.size();
+    auto [ptr, ec] = std::from_chars(text.data(), end, value);
+    if (text.empty() || ec != std::errc() || ptr != end) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::vector<double> parseNumberList(std::string const& text, std::string const& what) {
+    std::vector<double> numbers;
+    if (trimmed(text).empty()) {
+        return numbers;
+    }
+    std::size_t start = 0;
+    while (true) {
+        std::size_t comma = text.find(',', start);
+        std::string item = text.substr(start, comma == std::string::npos ? comma : comma - start);
+        std::optional<double> value = parseFinite(item);
+        if (!value) {
+            throw ToolError(what + ": '" + item + "' is not a finite number");
+        }
+        numbers.push_back(*value);
+        if (comma == std::string::npos) {
+            return numbers;
+        }
+        start = comma + 1;
+    }
+}
+
+std::string exactText(double value) {
+    char buffer[64];
+    auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    return std::string(buffer, result.ptr);
+}
+
+std::string shortText(double value, int digits) {
+    if (value == 0.0) {
+        return "0";  // also for -0, which reads oddly in a report or a label
+    }
+    if (std::isnan(value)) {
+        return "nan";  // whatever its sign bit
+    }
+    char buffer[64];
+    auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits);
+    return std::string(buffer, result.ptr);
+}
+
+}  // namespace orxtool

@@ -1,0 +1,33 @@
+// Number text of the tool's formats: strict parsing that refuses what would not survive a
+// round trip (NaN, infinities, overflow, trailing junk), and the shortest text that reads
+// back to the same double.
+#ifndef ORX_TOOL_NUMBERS_H
+#define ORX_TOOL_NUMBERS_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orxtool {
+
+// The finite double the whole text spells (surrounding blanks and one leading '+' allowed);
+// nothing for anything else, "nan", "inf" and values out of range included.
+std::optional<double> parseFinite(std::string_view text);
+
+// The integer the whole text spells (surrounding blanks allowed); nothing otherwise.
+std::optional<long> parseInteger(std::string_view text);
+
+// Comma-separated finite doubles ("1,2.5,-3"). Throws ToolError naming `what` and the bad
+// item; an empty text gives an empty list.
+std::vector<double> parseNumberList(std::string const& text, std::string const& what);
+
+// The shortest text that parses back to exactly `value` ("0.1", "1e+300", "-0").
+std::string exactText(double value);
+
+// Compact text for humans and pictures: `digits` significant digits, no trailing zeros.
+std::string shortText(double value, int digits);
+
+}  // namespace orxtool
+
+#endif  // ORX_TOOL_NUMBERS_H
