@@ -7,6 +7,7 @@
 #   process starts wineserver, which inherits that stream, and ctest would otherwise wait for
 #   wineserver to exit after every test.
 # - A crash is a failure even when Wine's debugger handled it and the exit status is 0.
+# - The program's output is collected and printed when it ends (see the retry below).
 set -u
 
 WINE=/usr/lib/wine/wine64
@@ -26,9 +27,22 @@ if [ ! -f "$WINEPREFIX/system.reg" ]; then
     ) 9>"$WINEPREFIX.lock"
 fi
 
+# Under heavy load Wine was seen (rarely) to exit with an error before the program wrote a
+# single byte, the program never having run. That case, and only that case, is retried.
+output=$(mktemp "${TMPDIR:-/tmp}/orx-wine-out.XXXXXX")
 errors=$(mktemp "${TMPDIR:-/tmp}/orx-wine.XXXXXX")
-"$WINE" "$@" 2>"$errors"
-status=$?
+attempt=1
+while :; do
+    "$WINE" "$@" >"$output" 2>"$errors"
+    status=$?
+    if [ "$status" -eq 0 ] || [ -s "$output" ] || [ -s "$errors" ] || [ "$attempt" -ge 3 ]; then
+        break
+    fi
+    echo "wine-run: Wine exited with status $status before the program wrote anything; retrying" >&2
+    attempt=$((attempt + 1))
+    sleep 1
+done
+cat "$output"
 if [ -s "$errors" ]; then
     cat "$errors" >&2
 fi
@@ -38,5 +52,5 @@ fi
 if [ "$status" -eq 53 ]; then
     echo "wine-run: a DLL the program needs was not found (exit status 53)" >&2
 fi
-rm -f "$errors"
+rm -f "$output" "$errors"
 exit "$status"
