@@ -42,7 +42,7 @@ std::vector<ProfileSample> const& profileSamples() {
          "pointed arch",
          3,
          {"width", "crown height", "side height", "arc rise"},
-         {200, 200, 100}},
+         {200, 260, 100}},
         {19, "circular segment", 2, {"chord", "rise"}, {200, 60}},
         {21, "parallelogram", 3, {"base length", "side height", "base angle"}, {160, 80, 20}},
         {22, "circle", 1, {"diameter"}, {100}},
