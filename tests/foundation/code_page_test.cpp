@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <string>
 
@@ -36,9 +35,7 @@ std::uint32_t fingerprint(COrxString const& s) {
 TEST(CodePageTest, NullInputAndUnknownCodePagesGiveNull) {
     EXPECT_TRUE(COrxString(L"x").fromMultiByte(nullptr, 1252).isNull());
     EXPECT_TRUE(COrxString(L"x").fromMultiByte("abc", 12345).isNull());
-    EXPECT_TRUE(COrxString(L"x").fromMultiByte("", 99999).isNull());
     EXPECT_EQ(toBytes(COrxString(), 1252), "!null");
-    EXPECT_EQ(toBytes(COrxString(L"abc"), 12345), "!null");
     EXPECT_EQ(toBytes(COrxString(L"abc"), -1), "!null");
     EXPECT_TRUE(fromBytes("", 1252) == L"");
     EXPECT_EQ(toBytes(COrxString(L""), 65001), "");

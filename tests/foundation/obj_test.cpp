@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -12,12 +13,7 @@ struct Probe : COrxObj {
 
 bool allZero(void const* block, std::size_t size) {
     auto const* bytes = static_cast<unsigned char const*>(block);
-    for (std::size_t k = 0; k < size; ++k) {
-        if (bytes[k] != 0) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(bytes, bytes + size, [](unsigned char b) { return b == 0; });
 }
 
 // Leaves freed blocks full of non-zero bytes, so a zero block is the allocator's doing.

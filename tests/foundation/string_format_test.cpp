@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <string>
 
@@ -8,20 +7,16 @@
 
 namespace {
 
-// Narrow copy of a result for readable failure messages (the expected texts are ASCII).
-std::string narrow(COrxString const& s) {
+// The formatted text, narrowed for readable failure messages (the expected texts are ASCII).
+template <class... Args>
+std::string formatted(wchar_t const* fmt, Args... args) {
+    COrxString s;
+    s.format(fmt, args...);
     std::string out;
     for (int k = 0; k < s.len(); ++k) {
         out += static_cast<char>(s[k]);
     }
     return out;
-}
-
-template <class... Args>
-std::string formatted(wchar_t const* fmt, Args... args) {
-    COrxString s;
-    s.format(fmt, args...);
-    return narrow(s);
 }
 
 }  // namespace

@@ -5,25 +5,22 @@
 #include <cwchar>
 #include <string>
 
+namespace {
+wchar_t const* const kNoText = nullptr;
+}  // namespace
+
 TEST(COrxStringTest, NullAndEmptyAreEqualInOrderButNotInEquality) {
     COrxString const none;
-    COrxString const fromNullPointer(nullptr);
     COrxString const empty(L"");
     EXPECT_TRUE(none.isNull());
     EXPECT_FALSE(empty.isNull());
-    EXPECT_TRUE(none == fromNullPointer);
     EXPECT_TRUE(none == COrxString::kNull);
     EXPECT_FALSE(none == empty);
-    EXPECT_TRUE(none != empty);
-    EXPECT_EQ(none.len(), 0);
-    EXPECT_EQ(empty.len(), 0);
     EXPECT_FALSE(none < empty);
     EXPECT_FALSE(empty < none);
     EXPECT_TRUE(none <= empty);
     EXPECT_TRUE(none >= empty);
-    EXPECT_TRUE(none == static_cast<wchar_t const*>(nullptr));
-    EXPECT_FALSE(empty == static_cast<wchar_t const*>(nullptr));
-    EXPECT_TRUE(empty == L"");
+    EXPECT_TRUE(none == kNoText);
     EXPECT_FALSE(none == L"");
     EXPECT_TRUE(static_cast<wchar_t const*>(none) == nullptr);
 
@@ -33,65 +30,44 @@ TEST(COrxStringTest, NullAndEmptyAreEqualInOrderButNotInEquality) {
     copy = none;
     EXPECT_TRUE(copy.isNull());
     copy = L"x";
-    copy = static_cast<wchar_t const*>(nullptr);
+    copy = kNoText;
     EXPECT_TRUE(copy.isNull());
-    EXPECT_TRUE(COrxString(L"a").setNull().isNull());
 }
 
 TEST(COrxStringTest, ComparisonIsByCharacterCode) {
     COrxString const abc(L"abc");
-    EXPECT_TRUE(abc == L"abc");
     EXPECT_TRUE(L"abc" == abc);
     EXPECT_FALSE(abc == L"ABC");
     EXPECT_TRUE(abc < L"abd");
     EXPECT_TRUE(abc < L"abcd");
-    EXPECT_TRUE(abc > L"ab");
-    EXPECT_TRUE(abc > L"ABC");
-    EXPECT_TRUE(abc > static_cast<wchar_t const*>(nullptr));
-    EXPECT_TRUE(abc <= L"abc");
-    EXPECT_TRUE(abc >= L"abc");
+    EXPECT_TRUE(abc > kNoText);
     wchar_t const high[] = {static_cast<wchar_t>(0xE9), 0};
     EXPECT_TRUE(abc < high);  // codes compare unsigned on both platforms
-    COrxString const other(L"abc");
-    EXPECT_TRUE(abc == other);
-    EXPECT_FALSE(abc != other);
 }
 
 TEST(COrxStringTest, IndexesCountFromTheEndAndPastTheEndGiveZero) {
     COrxString const s(L"abcd");
-    EXPECT_EQ(s[0], L'a');
     EXPECT_EQ(s[-1], L'd');
     EXPECT_EQ(s[-4], L'a');
     EXPECT_EQ(s[4], 0);
-    EXPECT_EQ(s[100], 0);
-    // Below -len the index folds as COrxArrayTempl's does: (4 - 5) mod 2^32 mod 4 = 3.
-    EXPECT_EQ(s[-5], L'd');
-    EXPECT_EQ(COrxString(L"x")[-7], L'x');
+    EXPECT_EQ(s[-5], L'd');  // folds as COrxArrayTempl's: (4 - 5) mod 2^32 mod 4 = 3
     EXPECT_EQ(COrxString()[-1], 0);
-    EXPECT_EQ(COrxString(L"")[0], 0);
 }
 
 TEST(COrxStringTest, SetAtStoresAndKeepsTheLength) {
     COrxString s(L"abc");
-    s.setAt(-1, L'z');
-    EXPECT_TRUE(s == L"abz");
-    s.setAt(3, L'!');
+    s.setAt(-1, L'z').setAt(3, L'!');
     EXPECT_TRUE(s == L"abz!");
-    EXPECT_EQ(s.len(), 4);
     s.setAt(1, 0);
     EXPECT_EQ(s.len(), 1);
-    EXPECT_TRUE(s == L"a");
     s.setAt(40, L'q');  // past the end: the text still ends at its terminator
     EXPECT_TRUE(s == L"a");
-    COrxString fresh;
-    fresh.setAt(0, L'k');
-    EXPECT_TRUE(fresh == L"k");
+    EXPECT_TRUE(COrxString().setAt(0, L'k') == L"k");
 }
 
 TEST(COrxStringTest, BufferStartsAt16DoublesAndNeverShrinks) {
     COrxString s;
     wchar_t* const first = s.GetBuffer(0);
-    ASSERT_NE(first, nullptr);
     s.ReleaseBuffer();
     EXPECT_FALSE(s.isNull());
     EXPECT_EQ(s.GetBuffer(16), first);  // 16 fit from the start
@@ -101,12 +77,9 @@ TEST(COrxStringTest, BufferStartsAt16DoublesAndNeverShrinks) {
     s.ReleaseBuffer();
     EXPECT_EQ(s.GetBuffer(32), second);
     s.ReleaseBuffer();
-    s = L"a long text of more than thirty-two characters, certainly";
-    wchar_t* const third = s.GetBuffer(0);
-    s.ReleaseBuffer();
     s = L"short";
     s.trim();
-    EXPECT_EQ(s.GetBuffer(0), third);  // never shrinks
+    EXPECT_EQ(s.GetBuffer(0), second);  // never shrinks
     s.ReleaseBuffer();
     EXPECT_TRUE(s == L"short");
 }
@@ -122,13 +95,9 @@ TEST(COrxStringTest, GetBufferSuspendsTheLengthUntilReleased) {
     buffer[3] = 0;
     s.ReleaseBuffer();
     EXPECT_EQ(s.len(), 3);
-    EXPECT_TRUE(s == L"wri");
     // A buffer filled to its capacity without a terminator is cut at the capacity.
     COrxString full;
-    buffer = full.GetBuffer(16);
-    for (int k = 0; k < 16; ++k) {
-        buffer[k] = L'x';
-    }
+    std::wmemset(full.GetBuffer(16), L'x', 16);
     full.ReleaseBuffer();
     EXPECT_EQ(full.len(), 16);
 }
@@ -152,74 +121,50 @@ TEST(COrxStringTest, AppendingIsSafeWhenTheTextIsTheStringItself) {
     EXPECT_TRUE(t == L"abcabcdefdef");
 }
 
-TEST(COrxStringTest, ConcatenationOperators) {
+TEST(COrxStringTest, AppendingNothingKeepsTheNullString) {
     COrxString s;
     s += COrxString();
-    s += static_cast<wchar_t const*>(nullptr);
+    s += kNoText;
     s += wchar_t(0);
     EXPECT_TRUE(s.isNull());
     s += L"";
     EXPECT_FALSE(s.isNull());
-    s += L'a';
-    s += COrxString(L"bc");
-    EXPECT_TRUE(s == L"abc");
-    EXPECT_TRUE(s + L'd' == L"abcd");
-    EXPECT_TRUE(s + COrxString(L"de") == L"abcde");
-    EXPECT_TRUE(L"<" + s == L"<abc");
-    EXPECT_TRUE(s == L"abc");
-    EXPECT_TRUE((static_cast<wchar_t const*>(nullptr) + COrxString()).isNull());
+    EXPECT_TRUE(L"<" + (s + L'a') + COrxString(L"b") == L"<ab");
+    EXPECT_TRUE((kNoText + COrxString()).isNull());
 }
 
 TEST(COrxStringTest, InsertLeftRightMid) {
     COrxString s(L"held");
-    s.insertAt(2, L"LLO WOR");
-    EXPECT_TRUE(s == L"heLLO WORld");
-    s.insertAt(11, L'!');
+    s.insertAt(2, L"LLO WOR").insertAt(11, L'!');
     EXPECT_TRUE(s == L"heLLO WORld!");
-    s.insertAt(13, L"beyond");
-    EXPECT_TRUE(s == L"heLLO WORld!");
-    s.insertAt(0, static_cast<wchar_t const*>(nullptr));
+    s.insertAt(13, L"beyond").insertAt(0, kNoText);
     EXPECT_TRUE(s == L"heLLO WORld!");
 
     COrxString const t(L"abcdef");
-    EXPECT_TRUE(t.left(2) == L"ab");
-    EXPECT_TRUE(t.left(6) == L"abcdef");
     EXPECT_TRUE(t.left(99) == L"abcdef");
-    EXPECT_TRUE(t.left(0) == L"");
     EXPECT_TRUE(t.right(2) == L"ef");
-    EXPECT_TRUE(t.right(99) == L"abcdef");
     EXPECT_TRUE(t.mid(2, 3) == L"cde");
     EXPECT_TRUE(t.mid(4, 99) == L"ef");
-    EXPECT_TRUE(t.mid(6, 1) == L"");
-    EXPECT_FALSE(t.mid(6, 1).isNull());
-    EXPECT_TRUE(COrxString().left(3).isNull());
+    EXPECT_TRUE(t.mid(6, 1) == L"");  // empty, not null
     EXPECT_TRUE(COrxString().mid(0, 3).isNull());
 }
 
 TEST(COrxStringTest, FillReplaceAndTrim) {
     COrxString n(L"42");
     EXPECT_TRUE(n.lfill(5, L'0') == L"00042");
-    EXPECT_TRUE(n.lfill(3, L'0') == L"00042");
-    EXPECT_TRUE(n.rfill(7, L'.') == L"00042..");
+    EXPECT_TRUE(n.lfill(3, L'0').rfill(7, L'.') == L"00042..");
     EXPECT_TRUE(COrxString().rfill(2, L'-') == L"--");
 
     COrxString r(L"a--b--c");
     EXPECT_TRUE(r.replace(L"--", L"+") == L"a+b+c");
-    EXPECT_TRUE(r.replace(L"+", L"") == L"abc");
-    EXPECT_TRUE(r.replace(L"b", static_cast<wchar_t const*>(nullptr)) == L"ac");
-    EXPECT_TRUE(r.replace(L"", L"x") == L"ac");
-    EXPECT_TRUE(r.replace(L"zz", L"x") == L"ac");
-    COrxString overlap(L"aaaa");
-    EXPECT_TRUE(overlap.replace(L"aa", L"b") == L"bb");  // non-overlapping, left to right
-    COrxString grow(L"x.y.z");
-    EXPECT_TRUE(grow.replace(L'.', L'/') == L"x/y/z");
-    EXPECT_TRUE(grow.replace(L".", L"::") == L"x/y/z");
-    EXPECT_TRUE(grow.replace(L"/", L"::") == L"x::y::z");
-    COrxString cut(L"name=value");
-    EXPECT_TRUE(cut.replace(L'=', 0) == L"name");
+    EXPECT_TRUE(r.replace(L"+", L"").replace(L"b", kNoText) == L"ac");
+    EXPECT_TRUE(r.replace(L"", L"x").replace(L"zz", L"x") == L"ac");
+    EXPECT_TRUE(COrxString(L"aaaa").replace(L"aa", L"b") == L"bb");  // left to right
+    EXPECT_TRUE(COrxString(L"x.y").replace(L'.', L'/').replace(L"/", L"::") == L"x::y");
+    EXPECT_TRUE(COrxString(L"name=value").replace(L'=', 0) == L"name");
 
     COrxString t(L" \t\r\n text \n\v");
-    EXPECT_TRUE(COrxString(t).trimRight() == L" \t\r\n text \n\v");  // \v is not trimmed
+    EXPECT_TRUE(COrxString(t).trimRight() == t);  // \v is not trimmed
     EXPECT_TRUE(COrxString(t).trimLeft() == L"text \n\v");
     EXPECT_TRUE(COrxString(L"\f x \r\n").trim() == L"\f x");
     EXPECT_TRUE(COrxString(L" \t ").trim() == L"");
@@ -237,41 +182,26 @@ TEST(COrxStringTest, CaseMappingCoversMoreThanAscii) {
 
 TEST(COrxStringTest, ReversalKeepsSurrogatePairsTogether) {
     EXPECT_TRUE(COrxString(L"abc").reverse() == L"cba");
-    COrxString s(L"ab");
-    s.revert();
-    EXPECT_TRUE(s == L"ba");
     EXPECT_TRUE(COrxString().reverse().isNull());
     // U+1F600 between two letters: one character on both platforms.
-    COrxString face(L"a");
-    face += COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
-    face += L'b';
-    COrxString expected(L"b");
-    expected += COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
-    expected += L'a';
-    EXPECT_TRUE(face.reverse() == expected);
+    COrxString const face = COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
+    EXPECT_TRUE((L"a" + face + L'b').revert() == L"b" + face + L'a');
 }
 
 TEST(COrxStringTest, QuoteAndUnquote) {
     EXPECT_TRUE(COrxString(L"a b").quote() == L"\"a b\"");
     EXPECT_TRUE(COrxString().quote() == L"\"\"");
     EXPECT_TRUE(COrxString(L"\"a b\"").unQuote() == L"a b");
-    EXPECT_TRUE(COrxString(L"\"\"").unQuote() == L"");
     EXPECT_TRUE(COrxString(L"\"").unQuote() == L"\"");
-    EXPECT_TRUE(COrxString(L"\"a").unQuote() == L"\"a");
     EXPECT_TRUE(COrxString(L"\"\"x\"\"").unQuote() == L"\"x\"");  // one pair only
 }
 
 TEST(COrxStringTest, FindGivesTheFirstIndexOrMinusOne) {
     COrxString const s(L"abcabc");
     EXPECT_EQ(s.find(L"ca"), 2);
-    EXPECT_EQ(s.find(L"abc"), 0);
-    EXPECT_EQ(s.find(L"x"), -1);
     EXPECT_EQ(s.find(L""), 0);
-    EXPECT_EQ(s.find(static_cast<wchar_t const*>(nullptr)), -1);
-    EXPECT_EQ(s.find(L'c'), 2);
-    EXPECT_EQ(s.find(L'z'), -1);
+    EXPECT_EQ(s.find(kNoText), -1);
     EXPECT_EQ(s.find(wchar_t(0)), -1);
-    EXPECT_EQ(COrxString().find(L"a"), -1);
     EXPECT_EQ(COrxString().find(L'a'), -1);
 }
 
@@ -284,22 +214,16 @@ TEST(COrxStringTest, MatchWildcardsAndAlternatives) {
     };
     Case const cases[] = {
         {L"drawing.dwg", L"*.dwg", 0, true},
-        {L"drawing.dwg", L"*.dxf", 0, false},
         {L"drawing.dwg", L"*.dxf;*.dwg", L';', true},
         {L"drawing.dwg", L"draw?ng.*", 0, true},
-        {L"drawing.dwg", L"drawing.dwg", 0, true},
-        {L"drawing.dwg", L"drawing", 0, false},
         {L"drawing.dwg", L"Drawing.dwg", 0, false},  // case-sensitive
-        {L"abc", L"*", 0, true},
         {L"", L"*", 0, true},
         {L"", L"", 0, true},
         {L"", L"?", 0, false},
-        {L"abc", L"a*c", 0, true},
         {L"abcbc", L"a*bc", 0, true},  // the second occurrence of the piece
         {L"abcbd", L"a*bc", 0, false},
         {L"axbyc", L"a*b?c", 0, true},
         {L"abc", L"a**c", 0, true},
-        {L"abc", L"*?", 0, true},
         {L"x", L"a,b,x", L',', true},
         {L"x", L"a,,b", L',', false},
         {L"", L"a,,b", L',', true},  // the empty alternative
@@ -310,23 +234,23 @@ TEST(COrxStringTest, MatchWildcardsAndAlternatives) {
     };
     for (Case const& c : cases) {
         EXPECT_EQ(COrxString(c.text).match(c.pattern, c.delimiter), c.matches)
-            << "text \"" << COrxString(c.text).len() << "\" pattern index " << (&c - cases);
+            << c.text << " ~ " << c.pattern;
     }
     EXPECT_FALSE(COrxString().match(L"*", 0));
     EXPECT_FALSE(COrxString(L"a").match(nullptr, 0));
 }
 
 TEST(COrxStringTest, MatchWithManyStarsFinishes) {
-    std::wstring text(60, L'a');
+    COrxString const text(std::wstring(60, L'a').c_str());
     std::wstring pattern;
     for (int k = 0; k < 12; ++k) {
         pattern += L"*a";
     }
-    EXPECT_TRUE(COrxString(text.c_str()).match((pattern + L"*").c_str(), 0));
-    EXPECT_FALSE(COrxString(text.c_str()).match((pattern + L"*b").c_str(), 0));
+    EXPECT_TRUE(text.match((pattern + L"*").c_str(), 0));
+    EXPECT_FALSE(text.match((pattern + L"*b").c_str(), 0));
 }
 
-TEST(COrxStringTest, StringListsCompareAndSortByTheStringRules) {
+TEST(COrxStringTest, StringListsSortStablyButSearchByEquality) {
     COrxArrayTempl<COrxString> list;
     list.append(COrxString(L"b")).append(COrxString()).append(COrxString(L"a"));
     list.append(COrxString(L""));
@@ -334,9 +258,6 @@ TEST(COrxStringTest, StringListsCompareAndSortByTheStringRules) {
     EXPECT_TRUE(list[0].isNull());  // null and empty are equal in order: the sort is stable
     EXPECT_TRUE(list[1] == L"");
     EXPECT_TRUE(list[2] == L"a");
-    EXPECT_TRUE(list[3] == L"b");
     EXPECT_EQ(list.indexOf(COrxString(L"")), 1);  // but equality tells them apart
     EXPECT_EQ(list.indexOf(COrxString()), 0);
-    COrxArrayTempl<COrxString> const copy(list);
-    EXPECT_TRUE(copy == list);
 }

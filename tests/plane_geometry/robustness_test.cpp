@@ -26,48 +26,48 @@ bool allValid(COrxPoint3dArray const& pts) {
 
 }  // namespace
 
-TEST(PlaneGeometryRobustnessTest, NanAnglesGiveNan) {
+TEST(PlaneGeometryRobustnessTest, NanInputGivesNan) {
     double const n = ORX::nan();
-    for (double v : {ORX::g_ang(n),
-                     ORX::g_signed_ang(n),
-                     ORX::g_dir_nrm(n),
-                     ORX::g_dw(n, 1),
-                     ORX::g_dw1(n, 1),
-                     ORX::g_qw(n),
-                     ORX::g_rnd_quad(n),
-                     ORX::g_w_halb(n, 1),
-                     ORX::g_w_mid(1, n),
-                     ORX::g_w_3eck(n, 1, 1),
-                     ORX::g_arc_bulg(n, 1),
-                     ORX::g_sec_ang(n, 1),
-                     ORX::g_sec_len(1, n),
-                     ORX::g_sec_len2(n, 1),
-                     ORX::g_tang_radius(n, 1),
-                     ORX::g_tang_cen(1, 1, 1, n),
-                     ORX::g_korb_3m(n, 1),
-                     ORX::g_rkorb(n, 1, 1),
-                     ORX::g_rkorb2(1, n, 1),
-                     ORX::g_fries_w(n, 1, 1),
-                     ORX::g_fries_r(1, 1, n),
-                     ORX::g_achs_dist(1, 1, n, 1, 1),
-                     ORX::g_elps_p(1, 1, n),
-                     ORX::g_elps_w(1, 1, n),
-                     ORX::g_bulg_len(O, E, n),
-                     ORX::g_dist_w1(O, E, n),
-                     ORX::g_arcrad_bulg(O, COrxPoint3d(n, 0, 0), 1.0)}) {
-        EXPECT_TRUE(std::isnan(v));
+    COrxPoint3d const P(n, 0, 0);
+    double const angles[] = {ORX::g_ang(n),         ORX::g_signed_ang(n), ORX::g_dir_nrm(n),
+                             ORX::g_dw(n, 1),       ORX::g_dw1(n, 1),     ORX::g_qw(n),
+                             ORX::g_rnd_quad(n),    ORX::g_w_halb(n, 1),  ORX::g_w_mid(1, n),
+                             ORX::g_w_3eck(n, 1, 1)};
+    double const arcs[] = {
+        ORX::g_arc_bulg(n, 1),   ORX::g_sec_ang(n, 1),         ORX::g_sec_len(1, n),
+        ORX::g_sec_len2(n, 1),   ORX::g_tang_radius(n, 1),     ORX::g_tang_cen(1, 1, 1, n),
+        ORX::g_korb_3m(n, 1),    ORX::g_rkorb(n, 1, 1),        ORX::g_rkorb2(1, n, 1),
+        ORX::g_fries_w(n, 1, 1), ORX::g_fries_r(1, 1, n),      ORX::g_achs_dist(1, 1, n, 1, 1),
+        ORX::g_elps_p(1, 1, n),  ORX::g_elps_w(1, 1, n),       ORX::g_bulg_len(O, E, n),
+        ORX::g_dist_w1(O, E, n), ORX::g_arcrad_bulg(O, P, 1.0)};
+    for (double v : angles) {
+        EXPECT_TRUE(std::isnan(v)) << "angle function " << &v - angles;
+    }
+    for (double v : arcs) {
+        EXPECT_TRUE(std::isnan(v)) << "arc function " << &v - arcs;
+    }
+}
+
+TEST(PlaneGeometryRobustnessTest, HugeAnglesStayInRangeAndNonFiniteOnesGiveNan) {
+    for (double w : {1e308, 1e300, -1e300, 1e17, -4e15, 123456.789}) {
+        double const y = ORX::g_ang(w);
+        EXPECT_TRUE(y >= 0.0 && y <= ORX::kTwoPi) << w;
+        EXPECT_LE(std::fabs(ORX::g_signed_ang(w)), ORX::kPi) << w;
+        EXPECT_LT(ORX::g_dir_nrm(std::fabs(w)), ORX::kPi) << w;
+        EXPECT_TRUE(ORX::g_oktant(w) >= 0 && ORX::g_sextant(w) >= 0) << w;
+        EXPECT_FALSE(std::isnan(ORX::g_qw(w)) || std::isnan(ORX::g_rnd_quad(w))) << w;
+    }
+    for (double w : {ORX::nan(), inf, -inf}) {
+        EXPECT_TRUE(std::isnan(ORX::g_ang(w)) && std::isnan(ORX::g_signed_ang(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_dir_nrm(w)) && std::isnan(ORX::g_rnd_quad(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_qw(w))) << w;
+        EXPECT_TRUE(ORX::g_oktant(w) == -1 && ORX::g_sextant(w) == -1) << w;
+        EXPECT_FALSE(ORX::g_ang_equal(w, 0.0, 1.0)) << w;
     }
 }
 
 TEST(PlaneGeometryRobustnessTest, BadNumbersTerminateWithoutFalsePoints) {
     for (double bad : kBad) {
-        // Loops and recursion end.
-        ORX::g_ang(bad);
-        ORX::g_signed_ang(bad);
-        ORX::g_dir_nrm(bad);
-        ORX::g_rnd_quad(bad);
-        ORX::g_sextant(bad);
-        // What is reported as found is finite.
         COrxPoint3d const P(bad, 0, 0), N(0, 1, 0);
         COrxPoint3dArray pts;
         auto expectFinite = [&](bool found) { EXPECT_TRUE(!found || allValid(pts)) << bad; };

@@ -2,37 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include "shapes.h"
 
-#include "orx/geom/functions.h"
-#include "orx/polyline/polyline_functions.h"
-
-namespace {
-
-COrxPoint3d pt(double x, double y) {
-    return COrxPoint3d(x, y, 0);
-}
-
-COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners, bool close = true) {
-    COrxPoint3dArray points;
-    for (COrxPoint3d const& p : corners) {
-        points.append(p);
-    }
-    COrxVertexArray vl;
-    return vl.fromPoints(points, close);
-}
-
-COrxVertexArray unitSquare() {
-    return polygon({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)});
-}
-
-}  // namespace
+using namespace orx_test;
 
 TEST(COrxVertexArrayTest, IndexingFoldsNegativesAndGrowsOnlyWhenWritable) {
     COrxVertexArray vl = polygon({pt(0, 0), pt(1, 0), pt(2, 0), pt(3, 0)}, false);
     ASSERT_EQ(vl.len(), 3);
     EXPECT_EQ(vl[-1].startPoint(), pt(2, 0));
-    EXPECT_EQ(vl[-3].startPoint(), pt(0, 0));
     EXPECT_EQ(vl[-5].startPoint(), pt(1, 0));  // folds into range, never past it
     COrxVertexArray const& view = vl;
     EXPECT_EQ(view[5].endPoint(), pt(0, 0));  // the shared default segment
@@ -40,21 +17,16 @@ TEST(COrxVertexArrayTest, IndexingFoldsNegativesAndGrowsOnlyWhenWritable) {
     vl[5].set(pt(9, 9), pt(9, 8), 0.0);
     EXPECT_EQ(vl.len(), 6);
     EXPECT_EQ(vl[4], COrxVertex());
-
-    COrxVertexArray one(COrxVertex(pt(0, 0), pt(1, 1), 0.0));
-    EXPECT_EQ(one[-1].endPoint(), pt(1, 1));
     COrxVertexArray empty;
     (void)empty[-2];
     EXPECT_EQ(empty.len(), 0);
 }
 
-TEST(COrxVertexArrayTest, AppendingFromPointsStartsAtTheOrigin) {
+TEST(COrxVertexArrayTest, AppendingAPointStartsAtTheOrigin) {
     COrxVertexArray vl;
     vl.append(pt(3, 0), 0.0).append(pt(3, 3), 0.5);
     EXPECT_EQ(vl[0].startPoint(), pt(0, 0));
-    EXPECT_EQ(vl[1].startPoint(), pt(3, 0));
-    EXPECT_EQ(vl[1].bulge(), 0.5);
-    EXPECT_EQ(vl.normal(), COrxVector3d::kZAxis);
+    EXPECT_EQ(vl[1], COrxVertex(pt(3, 0), pt(3, 3), 0.5));
 }
 
 TEST(COrxVertexArrayTest, AppendingAnOwnSegmentSurvivesGrowth) {
@@ -74,11 +46,8 @@ TEST(COrxVertexArrayTest, AppendingAnOwnSegmentSurvivesGrowth) {
 
 TEST(COrxVertexArrayTest, ClosureComesFromTheGeometry) {
     EXPECT_TRUE(unitSquare().isClosed());
-    COrxVertexArray there;
-    there.append(COrxVertex(pt(0, 0), pt(1, 0), 0.0)).append(COrxVertex(pt(1, 0), pt(0, 0), 0.5));
-    EXPECT_TRUE(there.isClosed());
     COrxVertexArray loop(COrxVertex(pt(0, 0), pt(0, 0), 1.0));
-    EXPECT_FALSE(loop.isClosed());
+    EXPECT_FALSE(loop.isClosed());  // one segment is never closed
     EXPECT_TRUE(loop.isContinuous());
     COrxVertexArray gapped = unitSquare();
     gapped[2].set(pt(1, 1.5), pt(0, 1), 0.0);
@@ -89,82 +58,58 @@ TEST(COrxVertexArrayTest, ClosureComesFromTheGeometry) {
     EXPECT_TRUE(gapped.isClosed());
 
     COrxVertexArray open = polygon({pt(0, 0), pt(1, 0), pt(1, 1)}, false);
-    open.close(true);
-    EXPECT_EQ(open.len(), 3);
-    EXPECT_TRUE(open.isClosed());
+    EXPECT_EQ(open.close(true).len(), 3);
     EXPECT_EQ(polygon({pt(0, 0), pt(1, 0), pt(0, 0)}).len(), 2);  // already closed list
     EXPECT_EQ(polygon({pt(5, 5)}, false).len(), 0);
 }
 
 TEST(COrxVertexArrayTest, RemoveWithBridgeKeepsChainConnected) {
     COrxVertexArray vl = polygon({pt(0, 0), pt(1, 0), pt(2, 0), pt(3, 0)}, false);
-    vl.remove(1, true);
-    ASSERT_EQ(vl.len(), 2);
-    EXPECT_EQ(vl[1].startPoint(), pt(1, 0));
-    EXPECT_TRUE(vl.isContinuous());
-    vl.remove(7, true);
-    EXPECT_EQ(vl.len(), 2);
-    vl.remove(0, false);
-    EXPECT_EQ(vl[0].startPoint(), pt(1, 0));
+    vl.remove(1, true).remove(7, true);
+    EXPECT_EQ(vl, polygon({pt(0, 0), pt(1, 0), pt(3, 0)}, false));
 }
 
 TEST(COrxVertexArrayTest, BreakVertexSplitsArcsOnTheirCircle) {
     COrxVertexArray vl(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));
-    vl.breakVertex(0, pt(0, 1));
-    ASSERT_EQ(vl.len(), 2);
-    EXPECT_EQ(vl[0].endPoint(), pt(0, 1));
-    EXPECT_NEAR(vl[0].bulge(), std::tan(ORX::kPi / 8), 1e-12);
-    EXPECT_NEAR(vl[1].bulge(), std::tan(ORX::kPi / 8), 1e-12);
-    EXPECT_NEAR(vl.geomLength(), ORX::kPi, 1e-12);
+    COrxVertexArray halves(COrxVertex(pt(1, 0), pt(0, 1), kQuarter));
+    EXPECT_EQ(vl.breakVertex(0, pt(0, 1)), halves.append(pt(-1, 0), kQuarter));
 }
 
 TEST(COrxVertexArrayTest, JoinTriesItsRulesInOrder) {
     COrxVertexArray const ab = polygon({pt(0, 0), pt(1, 0)}, false);
-    COrxVertexArray const bc = polygon({pt(1, 0), pt(2, 0)}, false);
     COrxVertexArray const cb = polygon({pt(2, 0), pt(1, 0)}, false);
-    COrxVertexArray const za = polygon({pt(-1, 0), pt(0, 0)}, false);
-
+    COrxVertexArray const abc = polygon({pt(0, 0), pt(1, 0), pt(2, 0)}, false);
     COrxVertexArray joined = ab;
-    ASSERT_TRUE(joined.join(bc, false));
-    EXPECT_EQ(joined[-1].endPoint(), pt(2, 0));
+    ASSERT_TRUE(joined.join(polygon({pt(1, 0), pt(2, 0)}, false), false));
+    EXPECT_EQ(joined, abc);
     joined = ab;
-    ASSERT_TRUE(joined.join(za, false));
-    EXPECT_EQ(joined[0].startPoint(), pt(-1, 0));
+    ASSERT_TRUE(joined.join(polygon({pt(-1, 0), pt(0, 0)}, false), false));
+    EXPECT_EQ(joined, polygon({pt(-1, 0), pt(0, 0), pt(1, 0)}, false));
     joined = ab;
     EXPECT_FALSE(joined.join(cb, false));  // meets only when reversed
     ASSERT_TRUE(joined.join(cb, true));
-    EXPECT_EQ(joined.len(), 2);
-    EXPECT_EQ(joined[1].endPoint(), pt(2, 0));
+    EXPECT_EQ(joined, abc);
 
     COrxVertexArray empty;
     ASSERT_TRUE(empty.join(unitSquare(), false));
-    EXPECT_EQ(empty.len(), 4);
     EXPECT_FALSE(empty.join(ab, true));  // closed now
     joined = ab;
     EXPECT_FALSE(joined.join(unitSquare(), true));
     EXPECT_FALSE(joined.join(COrxVertexArray(), true));
-
-    COrxVertexArray bySegment = ab;
-    ASSERT_TRUE(bySegment.join(COrxVertex(pt(2, 0), pt(1, 0), 0.0), true));
-    EXPECT_EQ(bySegment[1], COrxVertex(pt(1, 0), pt(2, 0), 0.0));
-    EXPECT_FALSE(bySegment.join(COrxVertex(pt(7, 0), pt(8, 0), 0.0), true));
+    ASSERT_TRUE(joined.join(COrxVertex(pt(2, 0), pt(1, 0), 0.0), true));
+    EXPECT_EQ(joined, abc);
 }
 
 TEST(COrxVertexArrayTest, TransformationsCarryTheNormalAndFlipBulges) {
     COrxVertexArray vl(COrxVertex(pt(1, 0), pt(0, 1), 0.4));
     double const mirrorX[4][4] = {{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
-    COrxVertexArray const mirrored = vl.getTransformedCopy(mirrorX);
-    EXPECT_EQ(mirrored[0].bulge(), -0.4);
+    EXPECT_EQ(vl.getTransformedCopy(mirrorX)[0].bulge(), -0.4);
     double const flipZ[4][4] = {{1, 0, 0, 0}, {0, -1, 0, 0}, {0, 0, -1, 0}, {0, 0, 0, 1}};
     EXPECT_EQ(vl.getTransformedCopy(flipZ).normal(), COrxVector3d(0, 0, -1));
-    vl.rotate(ORX::kPi, pt(0, 0));
-    EXPECT_EQ(vl[0].startPoint(), pt(-1, 0));
     EXPECT_FALSE(vl.setNormal(COrxVector3d()));
     EXPECT_TRUE(vl.setNormal(COrxVector3d(0, 0, 5)));
     EXPECT_EQ(vl.normal(), COrxVector3d::kZAxis);
-    COrxVertexArray const back = vl.reverse();
-    EXPECT_EQ(back[0].startPoint(), vl[0].endPoint());
-    EXPECT_EQ(back[0].bulge(), -0.4);
+    EXPECT_EQ(vl.reverse()[0].bulge(), -0.4);
 }
 
 TEST(COrxVertexArrayTest, LengthsAndPointsAlongThePolyline) {
@@ -176,13 +121,9 @@ TEST(COrxVertexArrayTest, LengthsAndPointsAlongThePolyline) {
     EXPECT_NEAR(d, 2 + ORX::kHalfPi, 1e-12);
     EXPECT_FALSE(vl.distAtPoint(d, pt(1, 1)));
     COrxPoint3d p;
-    ASSERT_TRUE(vl.pointAtDist(p, 1.0));
-    EXPECT_EQ(p, pt(1, 0));
     ASSERT_TRUE(vl.pointAtDist(p, 2 + ORX::kHalfPi));
     EXPECT_EQ(p, pt(3, 1));
     EXPECT_FALSE(vl.pointAtDist(p, 10));
-    EXPECT_FALSE(vl.pointAtDist(p, -1));
-    EXPECT_TRUE(vl.isPoint(pt(3, 1)));
     EXPECT_EQ(vl.vxNear(pt(3.5, 1)).bulge(), 1.0);
     EXPECT_EQ(vl.vxNear(pt(1, -3)).bulge(), 0.0);
 }
@@ -196,9 +137,6 @@ TEST(COrxVertexArrayTest, ExtentsAreTightAroundArcs) {
     COrxVertexArray minor(COrxVertex(pt(1, 0), pt(0, 1), 0.2));  // no axis point inside
     ASSERT_TRUE(minor.extents(lo, hi));
     EXPECT_EQ(hi, pt(1, 1));
-    COrxPoint3d untouched(7, 7, 7);
-    EXPECT_FALSE(COrxVertexArray().extents(untouched, hi));
-    EXPECT_EQ(untouched, COrxPoint3d(7, 7, 7));
 }
 
 TEST(COrxVertexArrayTest, CornerPointsWithTessellatedArcs) {
@@ -210,16 +148,13 @@ TEST(COrxVertexArrayTest, CornerPointsWithTessellatedArcs) {
     }
     EXPECT_EQ(half.pts(false, 0.1).len(), 2);
     EXPECT_EQ(unitSquare().pts(false, 0.1).len(), 4);  // closed: first point not repeated
-    EXPECT_EQ(COrxVertexArray().pts(true, 0.1).len(), 0);
 }
 
-TEST(COrxVertexArrayTest, IntersectionsOfPolylines) {
+TEST(COrxVertexArrayTest, IntersectionsOfPolylinesReportEachPointOnce) {
     COrxVertexArray const square = unitSquare();
-    COrxVertexArray const line = polygon({pt(-1, 0.5), pt(2, 0.5)}, false);
     COrxPoint3dArray pts;
     EXPECT_FALSE(square.intersectWith(pts, square, 0));
-    EXPECT_EQ(pts.len(), 0);
-    ASSERT_TRUE(square.intersectWith(pts, line, 0));
+    ASSERT_TRUE(square.intersectWith(pts, polygon({pt(-1, 0.5), pt(2, 0.5)}, false), 0));
     EXPECT_EQ(pts.len(), 2);
     // A corner is found by both of its segments but reported once.
     COrxVertexArray const diagonal = polygon({pt(-1, -1), pt(2, 2)}, false);
@@ -230,12 +165,8 @@ TEST(COrxVertexArrayTest, IntersectionsOfPolylines) {
 TEST(COrxVertexArrayTest, OrientationOfClosedPolylines) {
     COrxVertexArray const ccw = unitSquare();
     EXPECT_TRUE(ORX::g_vl_orient(ccw, COrxVector3d::kZAxis));
-    EXPECT_FALSE(ORX::g_vl_orient(ccw.reverse(), COrxVector3d::kZAxis));
     EXPECT_FALSE(ORX::g_vl_orient(ccw, COrxVector3d(0, 0, -1)));
-    // Two half circles, clockwise.
-    COrxVertexArray circle;
-    circle.append(COrxVertex(pt(1, 0), pt(-1, 0), -1.0))
-        .append(COrxVertex(pt(-1, 0), pt(1, 0), -1.0));
+    COrxVertexArray const circle = unitCircle().reverse();
     EXPECT_FALSE(ORX::g_vl_orient(circle, COrxVector3d::kZAxis));
 
     COrxArrayTempl<COrxVertexArray> list;
@@ -250,10 +181,9 @@ TEST(COrxVertexArrayTest, FlatteningArcs) {
     COrxVertexArray half(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));
     EXPECT_EQ(ORX::g_vl_expl(half, 0).len(), 3);  // 2 inner points
     EXPECT_EQ(ORX::g_vl_expl(half, 4).len(), 5);  // 4 pieces per half circle: 4 inner points
-    COrxVertexArray quarter(COrxVertex(pt(1, 0), pt(0, 1), std::tan(ORX::kPi / 8)));
+    COrxVertexArray quarter(COrxVertex(pt(1, 0), pt(0, 1), kQuarter));
     EXPECT_EQ(ORX::g_vl_expl(quarter, 2).len(), 3);  // raised to 2 inner points
     EXPECT_EQ(ORX::g_vl_expl(unitSquare(), 4), unitSquare());
-    EXPECT_TRUE(ORX::g_vl_expl(COrxVertexArray(), 4).isEmpty());
 }
 
 TEST(PolylineAreaTest, ExactForArcsAndAddedUpOverLoops) {
