@@ -1,6 +1,7 @@
 // Finding and messaging a running application, against a test server of this build: an
 // automation server under Wine, a D-Bus server on a private session bus natively.
 #ifdef _WIN32
+#include <process.h>
 #include <windows.h>
 #endif
 
@@ -115,18 +116,10 @@ private:
         COrxString const quitName = orx_test::uniqueName(L"OrxTestQuit");
         m_quit = CreateEventW(nullptr, TRUE, FALSE, quitName);
         std::wstring const program = orx_test::programBeside("orx_com_test_server").wstring();
-        COrxString commandLine;
-        commandLine.format(
-            L"\"%s\" %s %s %s", program.c_str(), static_cast<wchar_t const*>(m_progId),
-            static_cast<wchar_t const*>(m_classId), static_cast<wchar_t const*>(quitName));
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION process{};
-        if (CreateProcessW(program.c_str(), commandLine.GetBuffer(commandLine.len()), nullptr,
-                           nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
-            m_process = process.hProcess;
-            CloseHandle(process.hThread);
-        }
+        intptr_t const process = _wspawnl(
+            _P_NOWAIT, program.c_str(), L"server", static_cast<wchar_t const*>(m_progId),
+            static_cast<wchar_t const*>(m_classId), static_cast<wchar_t const*>(quitName), nullptr);
+        m_process = process == -1 ? nullptr : reinterpret_cast<HANDLE>(process);
     }
     void stop() {
         SetEvent(m_quit);
