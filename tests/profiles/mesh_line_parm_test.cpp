@@ -7,9 +7,11 @@
 
 #include "orx/geom/functions.h"
 #include "orx/profiles/profiles.h"
+#include "outline_checks.h"
 
 namespace {
 
+using orx_test::pt;
 using Faces = COrxArrayTempl<COrxArrayTempl<short>>;
 
 COrxPoint3dArray corners(std::initializer_list<COrxPoint3d> list) {
@@ -18,10 +20,6 @@ COrxPoint3dArray corners(std::initializer_list<COrxPoint3d> list) {
         pts.append(p);
     }
     return pts;
-}
-
-COrxPoint3d pt(double x, double y) {
-    return COrxPoint3d(x, y, 0);
 }
 
 int pointCount(COrxMesh const& mesh) {

@@ -121,27 +121,22 @@ inline COrxVertexArray plainBool(COrxVertexArray a, COrxVertexArray b,
 }
 
 // Bit for bit: every coordinate and bulge the same double.
-inline bool identical(COrxVertexArray const& a, COrxVertexArray const& b) {
-    if (a.len() != b.len()) {
-        return false;
-    }
-    for (int k = 0; k < a.len(); ++k) {
-        COrxVertex const &u = a[k], &v = b[k];
-        if (u.startPoint().x != v.startPoint().x || u.startPoint().y != v.startPoint().y ||
-            u.endPoint().x != v.endPoint().x || u.endPoint().y != v.endPoint().y ||
-            u.bulge() != v.bulge()) {
-            return false;
-        }
-    }
-    return true;
+inline bool identical(COrxPoint3d const& p, COrxPoint3d const& q) {
+    return p.x == q.x && p.y == q.y && p.z == q.z;
 }
 
-inline bool identical(COrxPoint3dArray const& a, COrxPoint3dArray const& b) {
+inline bool identical(COrxVertex const& u, COrxVertex const& v) {
+    return identical(u.startPoint(), v.startPoint()) && identical(u.endPoint(), v.endPoint()) &&
+           u.bulge() == v.bulge();
+}
+
+template <class Array>
+bool identical(Array const& a, Array const& b) {
     if (a.len() != b.len()) {
         return false;
     }
     for (int k = 0; k < a.len(); ++k) {
-        if (a[k].x != b[k].x || a[k].y != b[k].y || a[k].z != b[k].z) {
+        if (!identical(a[k], b[k])) {
             return false;
         }
     }

@@ -93,6 +93,17 @@ inline double area(RegionList const& list) {
     return total;
 }
 
+// The number of loops a chain splits into; -1 when one of them does not close.
+inline int closedLoops(COrxVertexArray const& vl) {
+    Region const loops = ORX::g_vl_vll(vl);
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        if (!loops[static_cast<int>(k)].isClosed()) {
+            return -1;
+        }
+    }
+    return static_cast<int>(loops.len());
+}
+
 // Inside by parity over all loops of a multi-loop polyline (holes included).
 inline bool insideLoops(COrxVertexArray const& vl, COrxPoint3d const& p) {
     Region const loops = ORX::g_vl_vll(vl);

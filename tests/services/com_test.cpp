@@ -1,6 +1,7 @@
 // Finding and messaging a running application, against a test server of this build: an
 // automation server under Wine, a D-Bus server on a private session bus natively.
 #ifdef _WIN32
+#include <process.h>
 #include <windows.h>
 #endif
 
@@ -9,8 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <filesystem>
-#include <memory>
+#include <fstream>
+#include <optional>
 #include <thread>
 
 #include "com_test_support.h"
@@ -20,6 +21,8 @@
 #endif
 
 namespace {
+
+namespace fs = std::filesystem;
 
 using Clock = std::chrono::steady_clock;
 
@@ -32,7 +35,7 @@ constexpr auto kStartPoll = std::chrono::milliseconds(50);
 
 // The answer a test server gives to the library's calls.
 int expected(int code, wchar_t const* text) {
-    return orxtest::answerFor(L"ORX", code, text).number;
+    return orx_test::answerFor(L"ORX", code, text).number;
 }
 
 // A class id in registry form that no other test uses.
@@ -44,61 +47,44 @@ COrxString uniqueClassId() {
     return id;
 }
 
-std::filesystem::path thisProgram() {
-#ifdef _WIN32
-    wchar_t path[MAX_PATH];
-    return std::filesystem::path(std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH)));
-#else
-    return std::filesystem::read_symlink("/proc/self/exe");
-#endif
-}
-
 #ifndef _WIN32
 // A session bus of the test's own: a dbus-daemon with its own configuration in a new folder,
 // its address handed to the library through DBUS_SESSION_BUS_ADDRESS.
 class PrivateBus {
 public:
     PrivateBus() {
-        std::filesystem::path const config = m_folder.folder() / "bus.conf";
-        std::FILE* file = std::fopen(config.c_str(), "w");
-        if (file == nullptr) {
-            return;
-        }
-        std::fprintf(file,
-                     "<busconfig><type>session</type><listen>unix:path=%s</listen>"
-                     "<auth>EXTERNAL</auth><policy context=\"default\">"
-                     "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n",
-                     (m_folder.folder() / "bus").c_str());
-        std::fclose(file);
+        fs::path const config = m_folder.path() / "bus.conf";
+        std::ofstream(config)
+            << "<busconfig><type>session</type><listen>unix:path="
+            << (m_folder.path() / "bus").string()
+            << "</listen><auth>EXTERNAL</auth><policy context=\"default\">"
+               "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+               "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
         int out[2];
         if (pipe(out) != 0) {
             return;
         }
-        m_pid = orxtest::spawnProgram(
+        m_pid = orx_test::spawnProgram(
             {"dbus-daemon", "--config-file=" + config.string(), "--nofork", "--print-address=1"},
             out[1]);
         close(out[1]);
         std::string address;
-        char c = 0;
-        while (read(out[0], &c, 1) == 1 && c != '\n') {
+        for (char c = 0; read(out[0], &c, 1) == 1 && c != '\n';) {
             address += c;
         }
         close(out[0]);
-        setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+        m_address.emplace("DBUS_SESSION_BUS_ADDRESS", address);
     }
     ~PrivateBus() {
-        unsetenv("DBUS_SESSION_BUS_ADDRESS");
         if (m_pid > 0) {
             kill(m_pid, SIGTERM);
-            orxtest::waitForExit(m_pid);
+            orx_test::waitForExit(m_pid);
         }
     }
-    PrivateBus(PrivateBus const&) = delete;
-    PrivateBus& operator=(PrivateBus const&) = delete;
 
 private:
-    orxtest::RegistryFolder m_folder;  // a scratch folder; the registry one is the server's
+    orx_test::ScratchDirectory m_folder;
+    std::optional<orx_test::ScopedEnv> m_address;
     pid_t m_pid = -1;
 };
 #endif
@@ -107,7 +93,7 @@ private:
 // folder and bus).
 class TestServer {
 public:
-    TestServer() : m_progId(orxtest::uniqueName(L"OrxTest.Server")), m_classId(uniqueClassId()) {
+    TestServer() : m_progId(orx_test::uniqueName(L"OrxTest.Server")), m_classId(uniqueClassId()) {
         start();
         auto const end = Clock::now() + kStartPatience;
         while (ORX::msg_send(m_progId, 0, L"") != 0 && Clock::now() < end) {
@@ -116,7 +102,7 @@ public:
     }
     ~TestServer() {
         stop();
-        orxtest::unregisterServer(m_progId, m_classId);
+        orx_test::unregisterServer(m_progId, m_classId);
     }
     TestServer(TestServer const&) = delete;
     TestServer& operator=(TestServer const&) = delete;
@@ -127,22 +113,13 @@ public:
 private:
 #ifdef _WIN32
     void start() {
-        COrxString const quitName = orxtest::uniqueName(L"OrxTestQuit");
+        COrxString const quitName = orx_test::uniqueName(L"OrxTestQuit");
         m_quit = CreateEventW(nullptr, TRUE, FALSE, quitName);
-        std::wstring const program =
-            (thisProgram().parent_path() / "orx_com_test_server.exe").wstring();
-        COrxString commandLine;
-        commandLine.format(
-            L"\"%s\" %s %s %s", program.c_str(), static_cast<wchar_t const*>(m_progId),
-            static_cast<wchar_t const*>(m_classId), static_cast<wchar_t const*>(quitName));
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION process{};
-        if (CreateProcessW(program.c_str(), commandLine.GetBuffer(commandLine.len()), nullptr,
-                           nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
-            m_process = process.hProcess;
-            CloseHandle(process.hThread);
-        }
+        std::wstring const program = orx_test::programBeside("orx_com_test_server").wstring();
+        intptr_t const process = _wspawnl(
+            _P_NOWAIT, program.c_str(), L"server", static_cast<wchar_t const*>(m_progId),
+            static_cast<wchar_t const*>(m_classId), static_cast<wchar_t const*>(quitName), nullptr);
+        m_process = process == -1 ? nullptr : reinterpret_cast<HANDLE>(process);
     }
     void stop() {
         SetEvent(m_quit);
@@ -159,19 +136,19 @@ private:
     void start() {
         COrxString busName(L"com.kelvara.progid.");
         busName += COrxString(m_progId).makeLower() + L"._31";  // CurVer names <progId>.1
-        m_pid = orxtest::spawnProgram(
-            {orxtest::programBeside("orx_dbus_test_server"), orxtest::narrow(m_progId),
-             orxtest::narrow(m_classId), orxtest::narrow(busName)},
+        m_pid = orx_test::spawnProgram(
+            {orx_test::programBeside("orx_dbus_test_server").string(), orx_test::narrow(m_progId),
+             orx_test::narrow(m_classId), orx_test::narrow(busName)},
             -1);
     }
     void stop() {
         if (m_pid > 0) {
             kill(m_pid, SIGTERM);
-            orxtest::waitForExit(m_pid);
+            orx_test::waitForExit(m_pid);
         }
     }
 
-    orxtest::RegistryFolder m_registry;
+    orx_test::RegistryFolder m_registry;
     PrivateBus m_bus;
     pid_t m_pid = -1;
 #endif
@@ -206,12 +183,11 @@ protected:
 
 TestServer* MessagingTest::s_server = nullptr;
 
-// Milliseconds msg_send takes to give up.
-template <class Send>
-long long millisecondsFor(Send send) {
+// A ProgID without a running server: -1, and soon.
+void expectPromptMinusOne(COrxString const& progId) {
     auto const start = Clock::now();
-    EXPECT_EQ(send(), -1);
-    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
+    EXPECT_EQ(ORX::msg_send(progId, 1, L"x"), -1);
+    EXPECT_LT(Clock::now() - start, kAbsentLimit);
 }
 
 }  // namespace
@@ -237,23 +213,16 @@ TEST_F(MessagingTest, MissingArgumentsServersOrBusGiveMinusOneAtOnce) {
     EXPECT_EQ(ORX::msg_send(nullptr, 1, L"x"), -1);
     EXPECT_EQ(ORX::msg_send(s_server->progId(), 1, nullptr), -1);
 
-    COrxString const unknown = orxtest::uniqueName(L"OrxTest.Unknown");
-    EXPECT_LT(millisecondsFor([&] { return ORX::msg_send(unknown, 1, L"x"); }),
-              std::chrono::milliseconds(kAbsentLimit).count());
-    COrxString const stopped = orxtest::uniqueName(L"OrxTest.Stopped");
+    expectPromptMinusOne(orx_test::uniqueName(L"OrxTest.Unknown"));
+    COrxString const stopped = orx_test::uniqueName(L"OrxTest.Stopped");
     COrxString const classId = uniqueClassId();
-    ASSERT_TRUE(orxtest::registerServer(stopped, classId, nullptr));
-    EXPECT_LT(millisecondsFor([&] { return ORX::msg_send(stopped, 1, L"x"); }),
-              std::chrono::milliseconds(kAbsentLimit).count());
-    orxtest::unregisterServer(stopped, classId);
+    ASSERT_TRUE(orx_test::registerServer(stopped, classId, nullptr));
+    expectPromptMinusOne(stopped);
+    orx_test::unregisterServer(stopped, classId);
 #ifndef _WIN32
-    COrxString const address = orxtest::getEnv(L"DBUS_SESSION_BUS_ADDRESS");
-    COrxString const runtime = orxtest::getEnv(L"XDG_RUNTIME_DIR");
-    orxtest::setEnv(L"DBUS_SESSION_BUS_ADDRESS", nullptr);
-    orxtest::setEnv(L"XDG_RUNTIME_DIR", L"/nonexistent");
+    orx_test::ScopedEnv noBus("DBUS_SESSION_BUS_ADDRESS", std::nullopt);
+    orx_test::ScopedEnv noRuntime("XDG_RUNTIME_DIR", std::string("/nonexistent"));
     EXPECT_EQ(ORX::msg_send(s_server->progId(), 1, L"no bus"), -1);
-    orxtest::setEnv(L"DBUS_SESSION_BUS_ADDRESS", address);
-    orxtest::setEnv(L"XDG_RUNTIME_DIR", runtime);
 #endif
 }
 
@@ -264,7 +233,7 @@ TEST_F(MessagingTest, DispatchFromProgIdGivesTheServerWhereThereIsOne) {
     EXPECT_EQ(ORX::dispatchFromProgID(s_server->progId(), &server), S_OK);
     ASSERT_NE(server, nullptr);
     server->Release();
-    EXPECT_LT(ORX::dispatchFromProgID(orxtest::uniqueName(L"OrxTest.Unknown"), &server), 0);
+    EXPECT_LT(ORX::dispatchFromProgID(orx_test::uniqueName(L"OrxTest.Unknown"), &server), 0);
     EXPECT_EQ(server, nullptr);
 #else
     EXPECT_EQ(ORX::dispatchFromProgID(s_server->progId(), &server),
@@ -273,18 +242,18 @@ TEST_F(MessagingTest, DispatchFromProgIdGivesTheServerWhereThereIsOne) {
 #endif
 }
 
-using ServerLookupTest = orxtest::RegistryTest;
+using ServerLookupTest = orx_test::RegistryTest;
 
 TEST_F(ServerLookupTest, ServerFromProgIdFindsTheRegisteredProgram) {
-    COrxString const progId = orxtest::uniqueName(L"OrxTest.Lookup");
+    COrxString const progId = orx_test::uniqueName(L"OrxTest.Lookup");
     COrxString const classId = uniqueClassId();
-    COrxString const program = thisProgram().wstring().c_str();
+    COrxString const program = orx_test::programBeside("orx_record_args").wstring().c_str();
     COrxString found(L"untouched");
     EXPECT_FALSE(ORX::serverFromProgID(nullptr, found));
     EXPECT_FALSE(ORX::serverFromProgID(progId, found));
     EXPECT_EQ(found, L"untouched");
 
-    ASSERT_TRUE(orxtest::registerServer(progId, classId, program));
+    ASSERT_TRUE(orx_test::registerServer(progId, classId, program));
     EXPECT_TRUE(ORX::serverFromProgID(progId, found));  // through CurVer, quotes removed
     EXPECT_EQ(found, program);
     EXPECT_TRUE(ORX::serverFromProgID(progId + L".1", found));
@@ -292,14 +261,14 @@ TEST_F(ServerLookupTest, ServerFromProgIdFindsTheRegisteredProgram) {
 
     // A server whose file is gone is looked for under Wow6432Node.
     COrxString const gone = program + L".gone";
-    ASSERT_TRUE(orxtest::setClassesText(L"CLSID\\" + classId + L"\\LocalServer32",
-                                        COrxString(gone).quote()));
+    ASSERT_TRUE(orx_test::setClassesText(L"CLSID\\" + classId + L"\\LocalServer32",
+                                         COrxString(gone).quote()));
     found = L"untouched";
     EXPECT_FALSE(ORX::serverFromProgID(progId, found));
     EXPECT_EQ(found, L"untouched");
-    ASSERT_TRUE(orxtest::setClassesText(L"Wow6432Node\\CLSID\\" + classId + L"\\LocalServer32",
-                                        L"\"C:\\32-bit\\server.exe\""));
+    ASSERT_TRUE(orx_test::setClassesText(L"Wow6432Node\\CLSID\\" + classId + L"\\LocalServer32",
+                                         L"\"C:\\32-bit\\server.exe\""));
     EXPECT_TRUE(ORX::serverFromProgID(progId, found));
     EXPECT_EQ(found, L"C:\\32-bit\\server.exe");
-    orxtest::unregisterServer(progId, classId);
+    orx_test::unregisterServer(progId, classId);
 }

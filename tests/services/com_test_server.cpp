@@ -84,14 +84,14 @@ public:
         }
         // The arguments come last to first.
         VARIANT* const arguments = parameters->rgvarg;
-        orxtest::Answer const answer =
-            orxtest::answerFor(textOf(arguments[2]), numberOf(arguments[1]), textOf(arguments[0]));
-        if (answer.kind == orxtest::AnswerKind::kFailure) {
+        orx_test::Answer const answer =
+            orx_test::answerFor(textOf(arguments[2]), numberOf(arguments[1]), textOf(arguments[0]));
+        if (answer.kind == orx_test::AnswerKind::kFailure) {
             return E_FAIL;
         }
         if (result != nullptr) {
             VariantInit(result);
-            if (answer.kind == orxtest::AnswerKind::kText) {
+            if (answer.kind == orx_test::AnswerKind::kText) {
                 result->vt = VT_BSTR;
                 result->bstrVal = SysAllocString(L"not a number");
             } else {
@@ -141,10 +141,10 @@ int main() {
     // Calls come in on COM's own threads; this one only waits for the quit event.
     if (SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {
         if (SUCCEEDED(CLSIDFromString(arguments[2], &classId)) &&
-            orxtest::registerServer(progId, classIdText, ownProgram().c_str())) {
+            orx_test::registerServer(progId, classIdText, ownProgram().c_str())) {
             status = serve(classId, arguments[3]);
         }
-        orxtest::unregisterServer(progId, classIdText);
+        orx_test::unregisterServer(progId, classIdText);
         CoUninitialize();
     }
     LocalFree(arguments);

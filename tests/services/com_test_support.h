@@ -11,7 +11,7 @@
 
 #include "orx/services/registry.h"
 
-namespace orxtest {
+namespace orx_test {
 
 // The answer of a test server to SendData(caller, code, text):
 // - text "fail": the call fails (an error reply);
@@ -65,6 +65,6 @@ inline void unregisterServer(COrxString const& progId, COrxString const& classId
     ORX::regDeleteTree(HKEY_CLASSES_ROOT, L"Wow6432Node\\CLSID\\" + classId);
 }
 
-}  // namespace orxtest
+}  // namespace orx_test
 
 #endif  // ORX_TESTS_SERVICES_COM_TEST_SUPPORT_H

@@ -35,13 +35,13 @@ int sendData(sd_bus_message* call, void*, sd_bus_error*) {
     if (read < 0) {
         return read;
     }
-    orxtest::Answer const answer = orxtest::answerFor(wide(caller), code, wide(text));
+    orx_test::Answer const answer = orx_test::answerFor(wide(caller), code, wide(text));
     switch (answer.kind) {
-        case orxtest::AnswerKind::kFailure:
+        case orx_test::AnswerKind::kFailure:
             return sd_bus_reply_method_errorf(call, "com.kelvara.Test.Failed", "asked to fail");
-        case orxtest::AnswerKind::kText:
+        case orx_test::AnswerKind::kText:
             return sd_bus_reply_method_return(call, "s", "not a number");
-        case orxtest::AnswerKind::kNumber:
+        case orx_test::AnswerKind::kNumber:
             break;
     }
     return sd_bus_reply_method_return(call, "i", static_cast<std::int32_t>(answer.number));
@@ -88,11 +88,11 @@ int main(int argc, char** argv) {
     COrxString const classId = COrxString().fromMultiByte(argv[2], 65001);
     std::string const self = std::filesystem::read_symlink("/proc/self/exe").string();
     COrxString const program = COrxString().fromMultiByte(self.c_str(), 65001);
-    if (!orxtest::registerServer(progId, classId, program)) {
+    if (!orx_test::registerServer(progId, classId, program)) {
         std::fprintf(stderr, "orx_dbus_test_server: cannot register %s\n", argv[1]);
         return 1;
     }
     int const status = serve(argv[3]);
-    orxtest::unregisterServer(progId, classId);
+    orx_test::unregisterServer(progId, classId);
     return status;
 }

@@ -10,10 +10,6 @@
 
 #include "test_support.h"
 
-#ifdef _WIN32
-#include <windows.h>
-#endif
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -24,22 +20,11 @@ using Clock = std::chrono::steady_clock;
 constexpr int kHelperDelayMs = 1500;
 constexpr std::chrono::seconds kPatience(60);
 
-// record_args, built beside this test program.
-std::wstring helperProgram() {
-#ifdef _WIN32
-    wchar_t self[MAX_PATH];
-    GetModuleFileNameW(nullptr, self, MAX_PATH);
-    return (fs::path(self).parent_path() / L"orx_record_args.exe").wstring();
-#else
-    return (fs::read_symlink("/proc/self/exe").parent_path() / "orx_record_args").wstring();
-#endif
-}
-
 // A command line that runs the helper, which records `arguments` (command-line text) into
 // `file` after `delayMs`.
 std::wstring helperCommand(fs::path const& file, int delayMs, std::wstring const& arguments) {
-    return L"\"" + helperProgram() + L"\" \"" + file.wstring() + L"\" " + std::to_wstring(delayMs) +
-           L" " + arguments;
+    return L"\"" + orx_test::programBeside("orx_record_args").wstring() + L"\" \"" +
+           file.wstring() + L"\" " + std::to_wstring(delayMs) + L" " + arguments;
 }
 
 std::vector<std::string> linesOf(fs::path const& file) {

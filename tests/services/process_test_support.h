@@ -1,5 +1,5 @@
-// Linux tests that start other programs: the programs built beside the test, started with the
-// test's environment and, when asked, their output in a pipe.
+// Linux tests that start other programs: started with the test's environment and, when
+// asked, their output in a pipe.
 #ifndef ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H
 #define ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H
 
@@ -8,17 +8,22 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "orx/foundation/string.h"
+
 extern char** environ;
 
-namespace orxtest {
+namespace orx_test {
 
-// A program of the build, in the folder of the running test.
-inline std::string programBeside(char const* name) {
-    return (std::filesystem::read_symlink("/proc/self/exe").parent_path() / name).string();
+// UTF-8 text for a command line.
+inline std::string narrow(COrxString const& text) {
+    char* bytes = nullptr;
+    text.toMultiByte(bytes, 65001);
+    std::string const result = bytes == nullptr ? std::string() : std::string(bytes);
+    delete[] bytes;
+    return result;
 }
 
 // Starts arguments[0] (looked up in PATH when it has no "/"), its standard output going to
@@ -62,6 +67,6 @@ inline int waitForExit(pid_t pid) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-}  // namespace orxtest
+}  // namespace orx_test
 
 #endif  // ORX_TESTS_SERVICES_PROCESS_TEST_SUPPORT_H

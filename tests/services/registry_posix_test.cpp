@@ -33,8 +33,9 @@ public:
         if (pipe(out) != 0) {
             return;
         }
-        arguments.insert(arguments.begin(), orxtest::programBeside("orx_registry_worker"));
-        m_pid = orxtest::spawnProgram(arguments, out[1]);
+        arguments.insert(arguments.begin(),
+                         orx_test::programBeside("orx_registry_worker").string());
+        m_pid = orx_test::spawnProgram(arguments, out[1]);
         close(out[1]);
         m_output = out[0];
     }
@@ -47,8 +48,8 @@ public:
 
     // Waits for the end; the exit status and everything printed.
     int finish(std::string& output) const {
-        output = orxtest::readAll(m_output);
-        return orxtest::waitForExit(m_pid);
+        output = orx_test::readAll(m_output);
+        return orx_test::waitForExit(m_pid);
     }
 
 private:
@@ -66,7 +67,7 @@ protected:
 
     std::string hiveFile() const { return (m_folder.folder() / "user.db").string(); }
 
-    orxtest::RegistryFolder m_folder;
+    orx_test::RegistryFolder m_folder;
 };
 
 bool passesIntegrityCheck(std::string const& file) {
@@ -98,31 +99,29 @@ long lastPrinted(std::string output) {
 }  // namespace
 
 TEST(RegistryFoldersTest, HivesFollowTheXdgConfigFolders) {
-    orxtest::RegistryFolder scratch;  // also clears ORX_REGISTRY_DIR below
-    fs::path const folder = scratch.folder();
-    ::unsetenv("ORX_REGISTRY_DIR");
-    ::setenv("XDG_CONFIG_HOME", (folder / "home").c_str(), 1);
-    ::setenv("XDG_CONFIG_DIRS", ("relative:" + (folder / "system").string() + ":/etc/xdg").c_str(),
-             1);
+    orx_test::ScratchDirectory scratch;
+    fs::path const folder = scratch.path();
+    orx_test::ScopedEnv noFolder("ORX_REGISTRY_DIR", std::nullopt);
+    orx_test::ScopedEnv home("XDG_CONFIG_HOME", (folder / "home").string());
+    orx_test::ScopedEnv dirs("XDG_CONFIG_DIRS",
+                             "relative:" + (folder / "system").string() + ":/etc/xdg");
     ORX::regBasePathSet(L"Software\\Folders");
     ORX::curVerSet(L"1");
 
     EXPECT_TRUE(ORX::regWrite(L"App", L"User", 1ul));
-    EXPECT_TRUE(ORX::regWrite(orxtest::Key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software")),
+    EXPECT_TRUE(ORX::regWrite(orx_test::Key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software")),
                               L"Machine", 2ul));
-    EXPECT_TRUE(ORX::regWrite(orxtest::Key(ORX::regCreateKey(HKEY_CLASSES_ROOT, L"Orx.Test")),
+    EXPECT_TRUE(ORX::regWrite(orx_test::Key(ORX::regCreateKey(HKEY_CLASSES_ROOT, L"Orx.Test")),
                               nullptr, L"class", false));
     EXPECT_TRUE(fs::exists(folder / "home/orx/registry/user.db"));
     EXPECT_TRUE(fs::exists(folder / "system/orx/registry/machine.db"));
     EXPECT_TRUE(fs::exists(folder / "system/orx/registry/classes.db"));
 
     // The folder is looked up at every call; a hive that was never written is empty.
-    ::setenv("ORX_REGISTRY_DIR", (folder / "other").c_str(), 1);
+    orx_test::ScopedEnv other("ORX_REGISTRY_DIR", (folder / "other").string());
     unsigned long number = 0;
     EXPECT_FALSE(ORX::regRead(L"App", L"User", number));
     EXPECT_FALSE(fs::exists(folder / "other"));
-    ::unsetenv("XDG_CONFIG_HOME");
-    ::unsetenv("XDG_CONFIG_DIRS");
     ORX::curVerSet(nullptr);
 }
 

@@ -9,13 +9,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "registry_test_support.h"
 
 namespace {
 
-using orxtest::Key;
-using orxtest::RegistryTest;
-using orxtest::uniqueName;
+using orx_test::Key;
+using orx_test::RegistryTest;
+using orx_test::uniqueName;
 
 COrxArrayTempl<COrxString> listOf(std::initializer_list<wchar_t const*> texts) {
     COrxArrayTempl<COrxString> list;
@@ -174,30 +176,31 @@ TEST_F(RegistryTest, NullTextEmptyListAndDelValueDeleteTheValue) {
     EXPECT_FALSE(ORX::regRead(L"App", L"Sub\\Number", number));
 }
 
-TEST_F(RegistryTest, ExpandableTextFollowsTheEnvironmentFolder) {
-    COrxString const oldFolder = orxtest::getEnv(orxtest::kProfileVariable);
-    ASSERT_FALSE(oldFolder.isNull());
-    COrxString const file =
-        oldFolder + orxtest::kSeparator + L"orx-test" + orxtest::kSeparator + L"file.txt";
-    COrxString const elsewhere = orxtest::kSeparator + COrxString(L"elsewhere");
+TEST_F(RegistryTest, ExpandableTextFollowsTheProfileFolder) {
+#ifdef _WIN32
+    char const* const profile = "USERPROFILE";
+    wchar_t const* const sep = L"\\";
+#else
+    char const* const profile = "HOME";
+    wchar_t const* const sep = L"/";
+#endif
+    ASSERT_NE(std::getenv(profile), nullptr);
+    COrxString const inside = sep + COrxString(L"orx-test") + sep + L"file.txt";
+    COrxString const file = orx_test::fs::path(std::getenv(profile)).wstring().c_str() + inside;
+    COrxString const elsewhere = sep + COrxString(L"elsewhere");
     ASSERT_TRUE(ORX::regWrite(L"App", L"Expand", file + L";" + elsewhere, true));
     ASSERT_TRUE(ORX::regWrite(L"App", L"Plain", file, false));
-    ASSERT_TRUE(ORX::regWrite(L"App", L"Nothing", elsewhere, true));  // stored as plain text
-
     COrxString text;
     EXPECT_TRUE(ORX::regRead(L"App", L"Expand", text));
     EXPECT_EQ(text, file + L";" + elsewhere);
-
-    COrxString const newFolder = orxtest::kSeparator + COrxString(L"moved");
-    orxtest::setEnv(orxtest::kProfileVariable, newFolder);
-    EXPECT_TRUE(ORX::regRead(L"App", L"Expand", text));
-    COrxString const moved = newFolder + orxtest::kSeparator + L"orx-test" + orxtest::kSeparator +
-                             L"file.txt;" + elsewhere;
-    EXPECT_EQ(text, moved);
-    EXPECT_TRUE(ORX::regRead(L"App", L"Plain", text));
-    EXPECT_EQ(text, file);
-    orxtest::setEnv(orxtest::kProfileVariable, oldFolder);
-
+    {
+        COrxString const folder = sep + COrxString(L"moved");
+        orx_test::ScopedEnv moved(profile, orx_test::fs::path(std::wstring(folder)).string());
+        EXPECT_TRUE(ORX::regRead(L"App", L"Expand", text));
+        EXPECT_EQ(text, folder + inside + L";" + elsewhere);
+        EXPECT_TRUE(ORX::regRead(L"App", L"Plain", text));
+        EXPECT_EQ(text, file);
+    }
     ASSERT_TRUE(ORX::regWrite(L"App", L"Reference", L"%ORX_NO_SUCH_VARIABLE%", false));
     EXPECT_TRUE(ORX::regRead(L"App", L"Reference", text));
     EXPECT_EQ(text, L"%ORX_NO_SUCH_VARIABLE%");

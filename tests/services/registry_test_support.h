@@ -1,70 +1,18 @@
-// Shared by the registry and server tests: a key that closes itself, environment access in
-// wide text, and a fixture that gives each test its own base path (and, natively, its own
-// registry folder) and removes what the test wrote.
+// Shared by the registry and server tests: a key that closes itself, unique names, and a
+// fixture that gives each test its own base path (and, natively, its own registry folder)
+// and removes what the test wrote.
 #ifndef ORX_TESTS_SERVICES_REGISTRY_TEST_SUPPORT_H
 #define ORX_TESTS_SERVICES_REGISTRY_TEST_SUPPORT_H
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <stdlib.h>
-#endif
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <chrono>
-#include <filesystem>
-#include <string>
 
 #include "orx/services/registry.h"
+#include "test_support.h"
 
-namespace orxtest {
-
-#ifdef _WIN32
-// The environment variable of the user's own folder, and the folder separator.
-constexpr wchar_t const* kProfileVariable = L"USERPROFILE";
-constexpr wchar_t const* kSeparator = L"\\";
-#else
-constexpr wchar_t const* kProfileVariable = L"HOME";
-constexpr wchar_t const* kSeparator = L"/";
-#endif
-
-#ifndef _WIN32
-inline std::string narrow(wchar_t const* text) {
-    char* bytes = nullptr;
-    COrxString(text).toMultiByte(bytes, 65001);
-    std::string result = bytes == nullptr ? std::string() : std::string(bytes);
-    delete[] bytes;
-    return result;
-}
-#endif
-
-// The null string when the variable is unset.
-inline COrxString getEnv(wchar_t const* name) {
-#ifdef _WIN32
-    wchar_t value[32767];
-    DWORD const length = GetEnvironmentVariableW(name, value, 32767);
-    return length == 0 && GetLastError() == ERROR_ENVVAR_NOT_FOUND ? COrxString()
-                                                                   : COrxString(value);
-#else
-    char const* const value = ::getenv(narrow(name).c_str());
-    return value == nullptr ? COrxString() : COrxString().fromMultiByte(value, 65001);
-#endif
-}
-
-// A null value unsets the variable.
-inline void setEnv(wchar_t const* name, wchar_t const* value) {
-#ifdef _WIN32
-    SetEnvironmentVariableW(name, value);
-#else
-    if (value == nullptr) {
-        ::unsetenv(narrow(name).c_str());
-    } else {
-        ::setenv(narrow(name).c_str(), narrow(value).c_str(), 1);
-    }
-#endif
-}
+namespace orx_test {
 
 // A name no other test or test run uses: letters and digits after the stem.
 inline COrxString uniqueName(wchar_t const* stem) {
@@ -99,35 +47,17 @@ private:
     HKEY m_key;
 };
 
-// Natively, ORX_REGISTRY_DIR points to a new folder for each test.
+#ifndef _WIN32
+// ORX_REGISTRY_DIR names a new folder until the scope ends.
 class RegistryFolder {
 public:
-    RegistryFolder() {
-#ifndef _WIN32
-        std::string pattern = (std::filesystem::temp_directory_path() / "orx-registry-XXXXXX");
-        if (::mkdtemp(pattern.data()) != nullptr) {
-            m_folder = pattern;
-            ::setenv("ORX_REGISTRY_DIR", m_folder.c_str(), 1);
-        }
-#endif
-    }
-    ~RegistryFolder() {
-#ifndef _WIN32
-        ::unsetenv("ORX_REGISTRY_DIR");
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-#endif
-    }
-    RegistryFolder(RegistryFolder const&) = delete;
-    RegistryFolder& operator=(RegistryFolder const&) = delete;
-
-    std::filesystem::path const& folder() const {
-        return m_folder;
-    }
+    fs::path const& folder() const { return m_scratch.path(); }
 
 private:
-    std::filesystem::path m_folder;
+    ScratchDirectory m_scratch;
+    ScopedEnv m_variable{"ORX_REGISTRY_DIR", m_scratch.narrow()};
 };
+#endif
 
 class RegistryTest : public ::testing::Test {
 protected:
@@ -156,14 +86,20 @@ protected:
 
     // Natively: no hive was created in the test's registry folder.
     bool storageUntouched() const {
-        return m_folder.folder().empty() || std::filesystem::is_empty(m_folder.folder());
+#ifdef _WIN32
+        return true;
+#else
+        return fs::is_empty(m_folder.folder());
+#endif
     }
 
 private:
+#ifndef _WIN32
     RegistryFolder m_folder;
+#endif
     COrxString m_base;
 };
 
-}  // namespace orxtest
+}  // namespace orx_test
 
 #endif  // ORX_TESTS_SERVICES_REGISTRY_TEST_SUPPORT_H

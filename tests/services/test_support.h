@@ -1,8 +1,12 @@
 // Helpers of the services tests: environment variables and the time zone set for a scope,
-// scratch directories with real files, and paths in either platform's separators.
+// scratch directories with real files, paths in either platform's separators, and the
+// programs built beside the tests.
 #ifndef ORX_TESTS_SERVICES_TEST_SUPPORT_H
 #define ORX_TESTS_SERVICES_TEST_SUPPORT_H
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
 #include <stdlib.h>
 #include <time.h>
 
@@ -29,6 +33,17 @@ constexpr wchar_t kForeignSeparator = L'\\';
 inline std::wstring foreign(std::wstring path) {
     std::replace(path.begin(), path.end(), kSeparator, kForeignSeparator);
     return path;
+}
+
+// A program of the build, in the folder of the running test.
+inline fs::path programBeside(std::string const& name) {
+#ifdef _WIN32
+    wchar_t self[MAX_PATH];
+    std::wstring const path(self, GetModuleFileNameW(nullptr, self, MAX_PATH));
+    return fs::path(path).parent_path() / (name + ".exe");
+#else
+    return fs::read_symlink("/proc/self/exe").parent_path() / name;
+#endif
 }
 
 // Sets (or without a value removes) an environment variable until the scope ends. With TZ

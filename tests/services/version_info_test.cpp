@@ -11,12 +11,11 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "orx/services/version.h"
+#include "test_support.h"
 
 namespace {
 
@@ -61,21 +60,52 @@ void expectNoData(ORX::CVersionInfo const& info, char const* what) {
     EXPECT_EQ(info.GetProductVersion(), none) << what;
 }
 
-fs::path writeFile(char const* name, std::string const& contents) {
-    fs::path const path = fs::temp_directory_path() / name;
-    std::ofstream(path, std::ios::binary) << contents;
-    return path;
+#ifdef _WIN32
+// A string of the DLL's version resource, read with the Win32 version API.
+std::wstring resourceString(std::wstring const& block, wchar_t const* name) {
+    struct Translation {
+        WORD language;
+        WORD codePage;
+    }* translation = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(block.data(), L"\\VarFileInfo\\Translation",
+                        reinterpret_cast<void**>(&translation), &length)) {
+        return L"<no translation>";
+    }
+    wchar_t query[128];
+    swprintf(query, 128, L"\\StringFileInfo\\%04x%04x\\%ls", translation->language,
+             translation->codePage, name);
+    wchar_t* value = nullptr;
+    return VerQueryValueW(block.data(), query, reinterpret_cast<void**>(&value), &length)
+               ? value
+               : L"<no value>";
 }
-
-std::string firstBytesOf(std::wstring const& file, std::size_t count) {
-    std::ifstream in(fs::path(file), std::ios::binary);
-    std::string bytes(count, '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(count));
-    bytes.resize(static_cast<std::size_t>(in.gcount()));
-    return bytes;
-}
+#endif
 
 }  // namespace
+
+TEST(VersionTest, VersionTextIs2017Point0) {
+    EXPECT_EQ(std::wstring(ORX::version()), L"2017.0");
+}
+
+#ifdef _WIN32
+TEST(VersionTest, DllCarriesItsVersionResource) {
+    std::wstring const dll = libraryFile();
+    EXPECT_NE(dll.find(L"Orx_2017_23_64_Base.dll"), std::wstring::npos) << dll.c_str();
+    DWORD handle = 0;
+    std::wstring block(GetFileVersionInfoSizeW(dll.c_str(), &handle), L'\0');
+    ASSERT_TRUE(
+        GetFileVersionInfoW(dll.c_str(), 0, static_cast<DWORD>(block.size()), block.data()));
+    EXPECT_EQ(resourceString(block, L"ProductVersion"), L"2017.0.23.64");
+    EXPECT_EQ(resourceString(block, L"CompanyName"), L"Kelvara");
+    EXPECT_EQ(resourceString(block, L"LegalCopyright").substr(0, 6), L"\u00a9 2017");
+    VS_FIXEDFILEINFO* fixed = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
+    EXPECT_EQ(fixed->dwProductVersionMS, static_cast<DWORD>(MAKELONG(0, 2017)));
+    EXPECT_EQ(fixed->dwProductVersionLS, static_cast<DWORD>(MAKELONG(64, 23)));
+}
+#endif
 
 TEST(CVersionInfoTest, ReadsTheLibrarysStringsBackFromItsFile) {
     expectLibraryStrings(ORX::CVersionInfo(libraryModule()));
@@ -104,16 +134,15 @@ TEST(CVersionInfoTest, FilesWithoutVersionDataGiveTheNoDataText) {
     expectNoData(ORX::CVersionInfo(L""), "empty file name");
     expectNoData(ORX::CVersionInfo(L"no such file.dll"), "missing file");
 
-    fs::path const empty = writeFile("orx_version_empty.bin", "");
-    fs::path const junk = writeFile("orx_version_junk.bin", std::string(4096, '\x7f'));
-    fs::path const truncated =
-        writeFile("orx_version_truncated.bin", firstBytesOf(libraryFile(), 1024));
-    expectNoData(ORX::CVersionInfo(empty.wstring().c_str()), "empty file");
-    expectNoData(ORX::CVersionInfo(junk.wstring().c_str()), "junk file");
-    expectNoData(ORX::CVersionInfo(truncated.wstring().c_str()), "truncated library");
-    for (fs::path const& path : {empty, junk, truncated}) {
-        fs::remove(path);
-    }
+    orx_test::ScratchDirectory scratch;
+    std::string head(1024, '\0');
+    std::ifstream(fs::path(libraryFile()), std::ios::binary).read(head.data(), 1024);
+    scratch.createFile(L"empty.bin", "");
+    scratch.createFile(L"junk.bin", std::string(4096, '\x7f'));
+    scratch.createFile(L"truncated.bin", head);
+    expectNoData(ORX::CVersionInfo((scratch / L"empty.bin").c_str()), "empty file");
+    expectNoData(ORX::CVersionInfo((scratch / L"junk.bin").c_str()), "junk file");
+    expectNoData(ORX::CVersionInfo((scratch / L"truncated.bin").c_str()), "truncated library");
 }
 
 TEST(CVersionInfoTest, VersionCompareIsNumericOverTheShorterText) {
