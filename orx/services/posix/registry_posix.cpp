@@ -108,6 +108,16 @@ public:
         return hive->useInThisProcess();
     }
 
+    // The key behind a handle that is about to be changed: a key opened for reading only is
+    // refused with access denied, as the registry does.
+    long resolveForChange(HKEY handle, bool creatingHive, OpenKey& key) {
+        long const error = resolve(handle, creatingHive, key);
+        if (error != kErrorSuccess) {
+            return error;
+        }
+        return key.writable ? kErrorSuccess : kErrorAccessDenied;
+    }
+
     HKEY add(OpenKey const& key) {
         auto record = std::make_unique<OpenKey>(key);
         HKEY const handle = reinterpret_cast<HKEY>(record.get());
@@ -255,11 +265,8 @@ long regDeleteTree(HKEY root, wchar_t const* path) {
     }
     std::lock_guard<std::mutex> const lock(registry().mutex());
     OpenKey parent;
-    if ((error = registry().resolve(root, false, parent)) != kErrorSuccess) {
+    if ((error = registry().resolveForChange(root, false, parent)) != kErrorSuccess) {
         return error;
-    }
-    if (!parent.writable) {
-        return kErrorAccessDenied;
     }
     RegistryKeyId doomed = 0;
     if ((error = parent.hive->findKey(parent.id, names, doomed)) != kErrorSuccess) {
@@ -300,11 +307,8 @@ long regSetValue(HKEY key, wchar_t const* name, unsigned long type, unsigned cha
     }
     std::lock_guard<std::mutex> const lock(registry().mutex());
     OpenKey open;
-    if ((error = registry().resolve(key, true, open)) != kErrorSuccess) {
+    if ((error = registry().resolveForChange(key, true, open)) != kErrorSuccess) {
         return error;
-    }
-    if (!open.writable) {
-        return kErrorAccessDenied;
     }
     RegistryData const stored{type, size == 0 ? std::string() : storedBytes(type, data, size)};
     return open.hive->setValue(open.id, registryName(text), stored);
@@ -318,11 +322,8 @@ long regDeleteValue(HKEY key, wchar_t const* name) {
     }
     std::lock_guard<std::mutex> const lock(registry().mutex());
     OpenKey open;
-    if ((error = registry().resolve(key, false, open)) != kErrorSuccess) {
+    if ((error = registry().resolveForChange(key, false, open)) != kErrorSuccess) {
         return error;
-    }
-    if (!open.writable) {
-        return kErrorAccessDenied;
     }
     return open.hive->deleteValue(open.id, folded(text));
 }
