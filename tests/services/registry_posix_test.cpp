@@ -28,13 +28,18 @@ constexpr int kWriteBeforeKillMs = 300;
 // A running orx_registry_worker whose output is collected.
 class Worker {
 public:
-    explicit Worker(std::vector<std::string> arguments) {
+    // With a user id the worker runs as that user and group (the caller must be root).
+    explicit Worker(std::vector<std::string> arguments, std::string const& userId = "") {
         int out[2];
         if (pipe(out) != 0) {
             return;
         }
         arguments.insert(arguments.begin(),
                          orx_test::programBeside("orx_registry_worker").string());
+        if (!userId.empty()) {
+            arguments.insert(arguments.begin(), {"setpriv", "--reuid=" + userId,
+                                                 "--regid=" + userId, "--clear-groups", "--"});
+        }
         m_pid = orx_test::spawnProgram(arguments, out[1]);
         close(out[1]);
         m_output = out[0];
@@ -123,6 +128,25 @@ TEST(RegistryFoldersTest, HivesFollowTheXdgConfigFolders) {
     EXPECT_FALSE(ORX::regRead(L"App", L"User", number));
     EXPECT_FALSE(fs::exists(folder / "other"));
     ORX::curVerSet(nullptr);
+}
+
+// The machine hive is written by an administrator and read by everyone; a reader may write
+// neither the database nor its folder.
+TEST_F(RegistryProcessesTest, AUserWhoMayNotWriteTheMachineHiveReadsIt) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs root to run a reader as another user";
+    }
+    {
+        orx_test::Key const key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software\\OrxWorker"));
+        ASSERT_TRUE(ORX::regWrite(key, L"Machine", 4711ul));
+    }
+    fs::permissions(m_folder.folder(), fs::perms::owner_all | fs::perms::group_read |
+                                           fs::perms::group_exec | fs::perms::others_read |
+                                           fs::perms::others_exec);
+    Worker reader({"machine", "4711"}, "65534");  // nobody
+    ASSERT_TRUE(reader.started());
+    std::string output;
+    EXPECT_EQ(reader.finish(output), 0) << output;
 }
 
 TEST_F(RegistryProcessesTest, ConcurrentWritersLoseNothingAndReadNothingTorn) {

@@ -10,6 +10,9 @@
 //   orx_registry_worker endless
 //     Writes K<n> = n for n = 0, 1, ... and prints n once the write has returned, until it is
 //     killed.
+//   orx_registry_worker machine <number>
+//     Reads the number value Software\OrxWorker\Machine of the machine hive. Exit status 0
+//     when it holds the number, 1 when it holds another, 2 when it cannot be read.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -101,6 +104,17 @@ int share(int id, int milliseconds) {
     return 0;
 }
 
+int machine(unsigned long expected) {
+    HKEY const key = ORX::regOpenKey(HKEY_LOCAL_MACHINE, L"Software\\OrxWorker", false);
+    unsigned long number = 0;
+    bool const read = key != nullptr && ORX::regRead(key, L"Machine", number);
+    ORX::regCloseKey(key);
+    if (!read) {
+        return 2;
+    }
+    return number == expected ? 0 : 1;
+}
+
 int endless() {
     COrxString name;
     for (unsigned long n = 0;; ++n) {
@@ -124,6 +138,10 @@ int main(int argc, char** argv) {
     if (argc == 2 && std::strcmp(argv[1], "endless") == 0) {
         return endless();
     }
-    std::fprintf(stderr, "usage: %s share <id> <milliseconds> | endless\n", argv[0]);
+    if (argc == 3 && std::strcmp(argv[1], "machine") == 0) {
+        return machine(std::strtoul(argv[2], nullptr, 10));
+    }
+    std::fprintf(stderr, "usage: %s share <id> <milliseconds> | endless | machine <number>\n",
+                 argv[0]);
     return 64;
 }

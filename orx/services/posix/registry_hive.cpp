@@ -168,10 +168,14 @@ RegistryHive::~RegistryHive() {
 }
 
 // WAL lets readers go on while one process writes; synchronous=FULL makes every commit
-// durable before it returns.
+// durable before it returns. A writer leaves the WAL's side files in place when it closes:
+// a reader that may not write the hive's folder (a user reading the machine hive written by
+// an administrator) can open the database only while they exist.
 long RegistryHive::configure() {
     sqlite3_busy_timeout(m_db, kRegistryBusyTimeoutMs);
     if (!m_readOnly) {
+        int persistWal = 1;
+        sqlite3_file_control(m_db, "main", SQLITE_FCNTL_PERSIST_WAL, &persistWal);
         if (sqliteExecute(m_db, "PRAGMA journal_mode=WAL") != SQLITE_OK ||
             sqliteExecute(m_db, "PRAGMA synchronous=FULL") != SQLITE_OK) {
             return kErrorRegistryIoFailed;
