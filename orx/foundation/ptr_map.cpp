@@ -1,5 +1,6 @@
 #include "orx/foundation/ptr_map.h"
 
+#include <algorithm>
 #include <climits>
 #include <deque>
 #include <vector>
@@ -9,6 +10,7 @@ namespace {
 struct Data {
     int count;
     void* pointer;
+    bool queued;  // waiting in the free list
 };
 
 // The records, indexed by reference.
@@ -47,15 +49,23 @@ int CPtrMap::newRef(void* p) {
             return -1;
         }
         index = static_cast<int>(table.size());
-        table.push_back(Data{0, nullptr});
+        table.push_back(Data{0, nullptr, false});
     }
-    table[static_cast<std::size_t>(index)] = Data{1, p};
+    table[static_cast<std::size_t>(index)] = Data{1, p, false};
     return index;
 }
 
+// A holder that counts a freed reference up again takes it back: it leaves the free list,
+// so that newRef cannot hand it out a second time under the holder.
 void CPtrMap::incrRef(int i) {
-    if (Data* data = record(i)) {
-        ++data->count;
+    Data* data = record(i);
+    if (data == nullptr) {
+        return;
+    }
+    if (++data->count > 0 && data->queued) {
+        std::deque<int>& freed = freeList();
+        freed.erase(std::find(freed.begin(), freed.end(), i));
+        data->queued = false;
     }
 }
 
@@ -64,8 +74,9 @@ int CPtrMap::decrRef(int i) {
     if (data == nullptr) {
         return -1;
     }
-    if (--data->count == 0) {
+    if (--data->count == 0 && !data->queued) {
         freeList().push_back(i);
+        data->queued = true;
     }
     return data->count;
 }

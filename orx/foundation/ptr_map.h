@@ -29,11 +29,12 @@ protected:
 
     // Registers p with count 1 and returns its reference (-1 only when the table is full).
     static int newRef(void* p);
-    // Count of reference i plus one; an unknown reference is ignored.
+    // Count of reference i plus one; an unknown reference is ignored. A freed reference
+    // counted up again is in use once more and no longer handed out by newRef.
     static void incrRef(int i);
     // Count of reference i minus one; returns the new count. On reaching 0 the reference
-    // becomes free for reuse (a further decrement leaves the count negative and frees
-    // nothing again). -1 for an unknown reference.
+    // becomes free for reuse, once however often it reaches 0 (a further decrement leaves
+    // the count negative and frees nothing again). -1 for an unknown reference.
     static int decrRef(int i);
     // The pointer of reference i (kept after its count dropped to 0); null when unknown.
     static void* ptrAt(int i);

@@ -185,3 +185,19 @@ TEST(CPtrMapTest, FreedReferencesAreReusedFirstFreedFirst) {
     EXPECT_EQ(Handles::ptrAt(99), nullptr);
     EXPECT_EQ(Handles::refCount(-5), -1);
 }
+
+// A reference counted back up from 0 is in use again: it is not handed out twice.
+TEST(CPtrMapTest, AReferenceTakenBackIsNotHandedOutAgain) {
+    int a = 1, b = 2, c = 3;
+    int const ref = Handles::newRef(&a);
+    EXPECT_EQ(Handles::decrRef(ref), 0);
+    Handles::incrRef(ref);
+    EXPECT_EQ(Handles::decrRef(ref), 0);
+    Handles::incrRef(ref);
+    int const other = Handles::newRef(&b);
+    int const third = Handles::newRef(&c);
+    EXPECT_NE(other, ref);
+    EXPECT_NE(third, ref);
+    EXPECT_NE(third, other);
+    EXPECT_EQ(Handles::ptrAt(ref), &a);
+}
