@@ -76,16 +76,21 @@
 // kept as built, since callers draw these codes with exactly these corners:
 // - 5 with d3 > d0 and d1 = d2: the ridge lies on the line of the top, which then runs back
 //   over itself;
-// - 6 with a top flat wider than the base (2 d3 > d0, or -d3 > d0), or exactly as wide
-//   while the ridge is lower than the sides (d1 < d2);
+// - 6 with a top flat at least as wide as the base (2 d3 >= d0, or -d3 >= d0) and the
+//   ridge lower than the sides (d1 < d2): the top then crosses or runs back along the
+//   sides; level with them (d1 = d2) a wider top passes through the side corners. A wider
+//   top above the sides (d1 > d2) is a simple, overhanging outline;
 // - 13 with the sides more than half the width above the crown (d2 - d1 > d0/2): the arc
 //   then spans more than a half circle and swings out across the sides;
 // - 17 with r = d1 - d2 > d0/2: the two quarter circles overlap;
 // - 18 with a rise d3 so large (near the chord length) that an arc swings out across a side
 //   or into the other arc.
 // Code 801 never crosses itself for positive dimensions (the swap keeps the slot at least
-// as long as wide); with d2 > d0 its far end is a round head wider than the slot (a
-// keyhole), and with d0 = d1 its two straight sides have length zero.
+// as long as wide). With d2 > d0 its far end is a round head wider than the slot (a
+// keyhole); when d1 is short against d2 that circle reaches past the half-circle end, and
+// the outline becomes a disc with the slot as a notch cut into it from the far side (10, 10,
+// 20: sides from y = 0 up to 13.66, disc down to y = -5). With d0 = d1 and d2 <= d0 its two
+// straight sides have length zero.
 //
 // The shapes below complete the table in the same conventions. Each is a closed,
 // counter-clockwise outline that does not touch itself for valid dimensions.
