@@ -131,6 +131,19 @@ TEST(IntersectionsTest, FoundPointsLieOnBothOperands) {
         for (int k = 0; k < pts.len(); ++k) {
             EXPECT_TRUE(onCircle(c1, r1, pts[k]) && onLine(p1, p2, pts[k])) << trial;
         }
+        ORX::g_cli(pts, c1, r1, p1, p2);
+        for (int k = 0; k < pts.len(); ++k) {
+            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && ORX::g_line_pt(p1, p2, pts[k])) << trial;
+        }
+        ORX::g_cai(pts, c1, r1, c2, r2, b0, b1);
+        for (int k = 0; k < pts.len(); ++k) {
+            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && ORX::g_arc_pt(c2, r2, b0, b1, pts[k]))
+                << trial;
+        }
+        P crossing;
+        if (ORX::inters(p1, p2, c1, c2, false, crossing)) {
+            EXPECT_TRUE(onLine(p1, p2, crossing) && onLine(c1, c2, crossing)) << trial;
+        }
         ORX::g_ali(pts, c1, r1, a0, a1, p1, p2);
         for (int k = 0; k < pts.len(); ++k) {
             EXPECT_TRUE(onLine(p1, p2, pts[k]) && ORX::g_arc_pt(c1, r1, a0, a1, pts[k])) << trial;
