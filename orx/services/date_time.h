@@ -6,7 +6,7 @@
 //     when.setDay(1);                                        // false if refused
 //     __int64 seconds = when;                                // seconds since 1970
 //     COrxString text;
-//     ORX::dateTime(text, when, true);                       // "Thursday, March 1, 2018 ..."
+//     ORX::dateTime(text, when, true);                       // long date and time
 //     double cdate;
 //     ORX::timeToAcadCDate(cdate, seconds);                  // 20180301.143005
 //
