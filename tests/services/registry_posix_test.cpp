@@ -130,6 +130,46 @@ TEST(RegistryFoldersTest, HivesFollowTheXdgConfigFolders) {
     ORX::curVerSet(nullptr);
 }
 
+// Values of types the settings functions never write (here REG_BINARY, planted straight
+// into the hive) are kept byte for byte: a zero and bytes that are not text survive a copy.
+TEST_F(RegistryProcessesTest, BinaryValuesAreKeptByteForByte) {
+    orx_test::Key const source(ORX::regCreateKey(HKEY_CURRENT_USER, L"Software\\Binary"));
+    ASSERT_TRUE(ORX::regWrite(source, L"Marker", 1ul));  // creates the hive and the key
+    std::string const bytes("\x01\x00\xff\xfe\x80\x7f", 6);
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(hiveFile().c_str(), &db), SQLITE_OK);
+    sqlite3_stmt* plant = nullptr;
+    ASSERT_EQ(sqlite3_prepare_v2(db,
+                                 "INSERT INTO vals(key, name, folded, type, data) SELECT key, "
+                                 "'Blob', 'BLOB', 3, ? FROM vals WHERE folded = 'MARKER'",
+                                 -1, &plant, nullptr),
+              SQLITE_OK);
+    sqlite3_bind_blob(plant, 1, bytes.data(), static_cast<int>(bytes.size()), SQLITE_STATIC);
+    EXPECT_EQ(sqlite3_step(plant), SQLITE_DONE);
+    sqlite3_finalize(plant);
+
+    orx_test::Key const copy(ORX::regCreateKey(HKEY_CURRENT_USER, L"Software\\Copy"));
+    EXPECT_TRUE(ORX::regCopyTree(copy, source, true));
+    unsigned long number = 0;
+    EXPECT_TRUE(ORX::regRead(copy, L"Blob", number));  // the lenient read takes any type
+    EXPECT_EQ(number, 0xfeff0001ul);
+    sqlite3_stmt* query = nullptr;
+    ASSERT_EQ(sqlite3_prepare_v2(db, "SELECT type, data FROM vals WHERE folded = 'BLOB'", -1,
+                                 &query, nullptr),
+              SQLITE_OK);
+    int copies = 0;
+    while (sqlite3_step(query) == SQLITE_ROW) {
+        ++copies;
+        EXPECT_EQ(sqlite3_column_int(query, 0), 3);
+        EXPECT_EQ(std::string(static_cast<char const*>(sqlite3_column_blob(query, 1)),
+                              static_cast<std::size_t>(sqlite3_column_bytes(query, 1))),
+                  bytes);
+    }
+    EXPECT_EQ(copies, 2);
+    sqlite3_finalize(query);
+    sqlite3_close(db);
+}
+
 // The machine hive is written by an administrator and read by everyone; a reader may write
 // neither the database nor its folder.
 TEST_F(RegistryProcessesTest, AUserWhoMayNotWriteTheMachineHiveReadsIt) {
