@@ -93,9 +93,12 @@ public:
     // the world z axis through the origin, then translate.
     COrxMatrix3d& setToSRM(COrxPoint3d const& s, double angle, COrxVector3d const& t);
 
-    // Gauss-Jordan elimination by column operations, pivot threshold ORX::kMatrixPivotTol.
-    // A singular matrix silently becomes the identity (deliberate: callers transform with
-    // the result without testing it).
+    // Gauss-Jordan elimination by column operations, pivot threshold ORX::kMatrixPivotTol:
+    // zero diagonal entries are exchanged with a usable column before elimination, and a
+    // pivot that elimination cancels is exchanged with a later column (without that second
+    // exchange some regular matrices would divide by zero). A singular matrix silently
+    // becomes the identity (deliberate: callers transform with the result without testing
+    // it).
     COrxMatrix3d& invert();
     COrxMatrix3d inverse() const;
 
