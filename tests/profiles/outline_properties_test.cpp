@@ -123,7 +123,7 @@ TEST(OutlinePropertiesTest, HugeAndTinyDimensionsKeepTheShape) {
 }
 
 // Random dimensions inside each chosen code's valid range, seeded: every outline is closed,
-// positive, simple and inside the rectangle or circle it is cut from.
+// positive and simple.
 TEST(OutlinePropertiesTest, ChosenShapesStaySimpleForRandomValidDimensions) {
     std::mt19937 random(20240917);
     auto uniform = [&](double lo, double hi) {
