@@ -31,6 +31,8 @@ fi
 # single byte, the program never having run. That case, and only that case, is retried.
 output=$(mktemp "${TMPDIR:-/tmp}/orx-wine-out.XXXXXX")
 errors=$(mktemp "${TMPDIR:-/tmp}/orx-wine.XXXXXX")
+# Interrupted (ctest's timeout, Ctrl-C): show what the program wrote so far, then clean up.
+trap 'cat "$output"; cat "$errors" >&2; rm -f "$output" "$errors"; exit 143' INT TERM
 attempt=1
 while :; do
     "$WINE" "$@" >"$output" 2>"$errors"
