@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
-#include <cstring>
 #include <memory>
 #include <mutex>
 #include <new>
@@ -125,17 +124,6 @@ CCriticalSect::CCriticalSect() {
 
 CCriticalSect::~CCriticalSect() {
     pthread_mutex_destroy(mutexIn(m_section));
-}
-
-CCriticalSect::CCriticalSect(CCriticalSect const& other) {
-    std::memcpy(m_section, other.m_section, sizeof m_section);
-}
-
-CCriticalSect& CCriticalSect::operator=(CCriticalSect const& other) {
-    if (this != &other) {
-        std::memcpy(m_section, other.m_section, sizeof m_section);
-    }
-    return *this;
 }
 
 void CCriticalSect::Enter() {

@@ -1,7 +1,6 @@
 // Threads and the re-entrant lock on Windows: CreateThread and a critical section.
 #include <windows.h>
 
-#include <cstring>
 #include <new>
 
 #include "orx/services/threads.h"
@@ -36,17 +35,6 @@ CCriticalSect::CCriticalSect() {
 
 CCriticalSect::~CCriticalSect() {
     DeleteCriticalSection(sectionIn(m_section));
-}
-
-CCriticalSect::CCriticalSect(CCriticalSect const& other) {
-    std::memcpy(m_section, other.m_section, sizeof m_section);
-}
-
-CCriticalSect& CCriticalSect::operator=(CCriticalSect const& other) {
-    if (this != &other) {
-        std::memcpy(m_section, other.m_section, sizeof m_section);
-    }
-    return *this;
 }
 
 void CCriticalSect::Enter() {
