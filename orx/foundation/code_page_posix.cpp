@@ -408,11 +408,5 @@ bool encodeCodePage(std::wstring_view text, int codePage, std::string& bytes, bo
     return encodeMultiByte(text, *page, bytes, lossless);
 }
 
-bool canEncode(std::wstring_view character, int codePage) {
-    std::string bytes;
-    bool lossless = false;
-    return encodeCodePage(character, codePage, bytes, lossless) && lossless;
-}
-
 }  // namespace internal
 }  // namespace ORX

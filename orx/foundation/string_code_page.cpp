@@ -11,6 +11,18 @@
 
 using ORX::internal::kUtf8CodePage;
 
+namespace {
+
+// Whether one character (one code point: a surrogate pair, a lone code unit, or a 32-bit
+// wchar_t) converts to codePage exactly and back.
+bool canEncode(std::wstring_view character, int codePage) {
+    std::string bytes;
+    bool lossless = false;
+    return ORX::internal::encodeCodePage(character, codePage, bytes, lossless) && lossless;
+}
+
+}  // namespace
+
 COrxString& COrxString::fromMultiByte(char const* text, int codePage) {
     std::wstring wide;
     if (text == nullptr || !ORX::internal::decodeCodePage(text, codePage, wide)) {
@@ -41,7 +53,7 @@ char* COrxString::toMultiByte(char*& out, int codePage) const {
         // (and with any backslash that would read as an escape escaped itself).
         std::wstring const escaped =
             ORX::internal::escapeWideChars(text, [codePage](std::wstring_view character) {
-                return !ORX::internal::canEncode(character, codePage);
+                return !canEncode(character, codePage);
             });
         if (!ORX::internal::encodeCodePage(escaped, codePage, bytes, lossless)) {
             return nullptr;

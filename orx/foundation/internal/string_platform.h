@@ -23,10 +23,6 @@ bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text);
 // when the code page is unknown to the platform.
 bool encodeCodePage(std::wstring_view text, int codePage, std::string& bytes, bool& lossless);
 
-// Whether one character (one code point: a surrogate pair, a lone code unit, or a 32-bit
-// wchar_t) converts to codePage exactly and back.
-bool canEncode(std::wstring_view character, int codePage);
-
 // The text with %NAME% references replaced by the environment's values.
 std::wstring expandEnvironment(std::wstring const& text);
 
