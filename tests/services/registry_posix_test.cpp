@@ -25,32 +25,23 @@ constexpr int kShareMilliseconds = 3000;
 constexpr int kKillTrials = 5;
 constexpr int kWriteBeforeKillMs = 300;
 
-// A running orx_registry_worker whose output is collected.
+// A running orx_registry_worker whose output is collected; with a user id it runs as that
+// user and group (the caller must be root).
 class Worker {
 public:
-    // With a user id the worker runs as that user and group (the caller must be root).
     explicit Worker(std::vector<std::string> arguments, std::string const& userId = "") {
-        int out[2];
-        if (pipe(out) != 0) {
-            return;
-        }
         arguments.insert(arguments.begin(),
                          orx_test::programBeside("orx_registry_worker").string());
         if (!userId.empty()) {
             arguments.insert(arguments.begin(), {"setpriv", "--reuid=" + userId,
                                                  "--regid=" + userId, "--clear-groups", "--"});
         }
-        m_pid = orx_test::spawnProgram(arguments, out[1]);
-        close(out[1]);
-        m_output = out[0];
+        m_pid = orx_test::spawnProgram(arguments, &m_output);
     }
     ~Worker() { close(m_output); }
-    Worker(Worker const&) = delete;
-    Worker& operator=(Worker const&) = delete;
 
     bool started() const { return m_pid > 0; }
     void kill() const { ::kill(m_pid, SIGKILL); }
-
     // Waits for the end; the exit status and everything printed.
     int finish(std::string& output) const {
         output = orx_test::readAll(m_output);
