@@ -126,11 +126,13 @@ private:
     void start() {
         COrxString busName(L"com.kelvara.progid.");
         busName += COrxString(m_progId).makeLower() + L"._31";  // CurVer names <progId>.1
-        m_pid = orx_test::spawnProgram(
-            {orx_test::programBeside("orx_dbus_test_server").string(), orx_test::narrow(m_progId),
-             orx_test::narrow(m_classId), orx_test::narrow(busName)});
+        m_pid = orx_test::spawnProgram({orx_test::programBeside("orx_dbus_test_server").string(),
+                                        orx_test::narrow(m_progId), orx_test::narrow(m_classId),
+                                        orx_test::narrow(busName)});
     }
-    void stop() { orx_test::terminate(m_pid); }
+    void stop() {
+        orx_test::terminate(m_pid);
+    }
 
     orx_test::RegistryFolder m_registry;
     PrivateBus m_bus;
@@ -227,17 +229,21 @@ TEST_F(MessagingTest, DispatchFromProgIdGivesTheServerWhereThereIsOne) {
 
 using ServerLookupTest = orx_test::RegistryTest;
 
-TEST_F(ServerLookupTest, ServerFromProgIdFindsTheRegisteredProgram) {
+TEST_F(ServerLookupTest, CurProgIdAndServerFromProgIdFollowTheRegistration) {
     COrxString const progId = orx_test::uniqueName(L"OrxTest.Lookup");
     COrxString const classId = uniqueClassId();
     COrxString const program = orx_test::programBeside("orx_record_args").wstring().c_str();
     COrxString found(L"untouched");
     EXPECT_FALSE(ORX::serverFromProgID(nullptr, found));
     EXPECT_FALSE(ORX::serverFromProgID(progId, found));
+    EXPECT_FALSE(ORX::curProgId(found, nullptr) || ORX::curProgId(found, progId));
     EXPECT_EQ(found, L"untouched");
 
     ASSERT_TRUE(orx_test::registerServer(progId, classId, program));
-    EXPECT_TRUE(ORX::serverFromProgID(progId, found));  // through CurVer, quotes removed
+    EXPECT_TRUE(ORX::curProgId(found, progId));
+    EXPECT_EQ(found, progId + L".1");
+    EXPECT_FALSE(ORX::curProgId(found, progId + L".1"));  // the version has no CurVer
+    EXPECT_TRUE(ORX::serverFromProgID(progId, found));    // through CurVer, quotes removed
     EXPECT_EQ(found, program);
     EXPECT_TRUE(ORX::serverFromProgID(progId + L".1", found));
     EXPECT_EQ(found, program);

@@ -249,16 +249,3 @@ TEST_F(RegistryTest, KeyNamesIgnoreCaseAndBadHandlesAreRefused) {
     EXPECT_TRUE(ORX::regCloseKey(closed));
     EXPECT_FALSE(ORX::regCloseKey(closed));
 }
-
-TEST_F(RegistryTest, CurProgIdReadsTheClassesCurVerKey) {
-    COrxString const progId = uniqueName(L"OrxTest.CurVer");
-    ASSERT_TRUE(ORX::regWrite(Key(ORX::regCreateKey(HKEY_CLASSES_ROOT, progId + L"\\CurVer")),
-                              nullptr, progId + L".2", false));
-    COrxString out(L"untouched");
-    EXPECT_FALSE(ORX::curProgId(out, nullptr));
-    EXPECT_FALSE(ORX::curProgId(out, progId + L".2"));
-    EXPECT_EQ(out, L"untouched");
-    EXPECT_TRUE(ORX::curProgId(out, progId));
-    EXPECT_EQ(out, progId + L".2");
-    EXPECT_TRUE(ORX::regDeleteTree(HKEY_CLASSES_ROOT, progId));
-}

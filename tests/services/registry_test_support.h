@@ -82,7 +82,8 @@ protected:
         ORX::regBasePathSet(L"");
     }
 
-    static std::optional<COrxString> textAt(HKEY root, wchar_t const* keyPath, wchar_t const* name) {
+    static std::optional<COrxString> textAt(HKEY root, wchar_t const* keyPath,
+                                            wchar_t const* name) {
         return readValue<COrxString>(Key(ORX::regOpenKey(root, keyPath, false)), name);
     }
     COrxString const& base() const { return m_base; }
