@@ -23,12 +23,6 @@ constexpr wchar_t const* kApp = L"Worker";
 constexpr int kTextTokens = 100;
 constexpr int kListTokens = 20;
 
-COrxString tokenOf(int id, int round) {
-    COrxString token;
-    token.format(L"%d:%d;", id, round);
-    return token;
-}
-
 COrxString repeated(COrxString const& token, int count) {
     COrxString text;
     for (int i = 0; i < count; ++i) {
@@ -53,7 +47,8 @@ bool isWhole(COrxArrayTempl<COrxString> const& list) {
 int shareRound(int id, int round) {
     COrxString own;
     own.format(L"Own\\%d_%d", id, round);
-    COrxString const token = tokenOf(id, round);
+    COrxString token;
+    token.format(L"%d:%d;", id, round);
     COrxArrayTempl<COrxString> list;
     for (int i = 0; i < kListTokens; ++i) {
         list.append(token);
