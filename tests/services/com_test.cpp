@@ -54,33 +54,23 @@ class PrivateBus {
 public:
     PrivateBus() {
         fs::path const config = m_folder.path() / "bus.conf";
-        std::ofstream(config)
-            << "<busconfig><type>session</type><listen>unix:path="
-            << (m_folder.path() / "bus").string()
-            << "</listen><auth>EXTERNAL</auth><policy context=\"default\">"
-               "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-               "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
-        int out[2];
-        if (pipe(out) != 0) {
-            return;
-        }
+        std::ofstream(config) << "<busconfig><type>session</type><listen>unix:path="
+                              << (m_folder.path() / "bus").string()
+                              << "</listen><auth>EXTERNAL</auth><policy context=\"default\">"
+                                 "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow "
+                                 "eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n";
+        int out = -1;
         m_pid = orx_test::spawnProgram(
             {"dbus-daemon", "--config-file=" + config.string(), "--nofork", "--print-address=1"},
-            out[1]);
-        close(out[1]);
+            &out);
         std::string address;
-        for (char c = 0; read(out[0], &c, 1) == 1 && c != '\n';) {
+        for (char c = 0; read(out, &c, 1) == 1 && c != '\n';) {
             address += c;
         }
-        close(out[0]);
+        close(out);
         m_address.emplace("DBUS_SESSION_BUS_ADDRESS", address);
     }
-    ~PrivateBus() {
-        if (m_pid > 0) {
-            kill(m_pid, SIGTERM);
-            orx_test::waitForExit(m_pid);
-        }
-    }
+    ~PrivateBus() { orx_test::terminate(m_pid); }
 
 private:
     orx_test::ScratchDirectory m_folder;
@@ -136,16 +126,12 @@ private:
     void start() {
         COrxString busName(L"com.kelvara.progid.");
         busName += COrxString(m_progId).makeLower() + L"._31";  // CurVer names <progId>.1
-        m_pid = orx_test::spawnProgram(
-            {orx_test::programBeside("orx_dbus_test_server").string(), orx_test::narrow(m_progId),
-             orx_test::narrow(m_classId), orx_test::narrow(busName)},
-            -1);
+        m_pid = orx_test::spawnProgram({orx_test::programBeside("orx_dbus_test_server").string(),
+                                        orx_test::narrow(m_progId), orx_test::narrow(m_classId),
+                                        orx_test::narrow(busName)});
     }
     void stop() {
-        if (m_pid > 0) {
-            kill(m_pid, SIGTERM);
-            orx_test::waitForExit(m_pid);
-        }
+        orx_test::terminate(m_pid);
     }
 
     orx_test::RegistryFolder m_registry;
@@ -234,27 +220,30 @@ TEST_F(MessagingTest, DispatchFromProgIdGivesTheServerWhereThereIsOne) {
     ASSERT_NE(server, nullptr);
     server->Release();
     EXPECT_LT(ORX::dispatchFromProgID(orx_test::uniqueName(L"OrxTest.Unknown"), &server), 0);
-    EXPECT_EQ(server, nullptr);
 #else
     EXPECT_EQ(ORX::dispatchFromProgID(s_server->progId(), &server),
               static_cast<long>(static_cast<std::int32_t>(0x80004001u)));  // E_NOTIMPL
-    EXPECT_EQ(server, nullptr);
 #endif
+    EXPECT_EQ(server, nullptr);
 }
 
 using ServerLookupTest = orx_test::RegistryTest;
 
-TEST_F(ServerLookupTest, ServerFromProgIdFindsTheRegisteredProgram) {
+TEST_F(ServerLookupTest, CurProgIdAndServerFromProgIdFollowTheRegistration) {
     COrxString const progId = orx_test::uniqueName(L"OrxTest.Lookup");
     COrxString const classId = uniqueClassId();
     COrxString const program = orx_test::programBeside("orx_record_args").wstring().c_str();
     COrxString found(L"untouched");
     EXPECT_FALSE(ORX::serverFromProgID(nullptr, found));
     EXPECT_FALSE(ORX::serverFromProgID(progId, found));
+    EXPECT_FALSE(ORX::curProgId(found, nullptr) || ORX::curProgId(found, progId));
     EXPECT_EQ(found, L"untouched");
 
     ASSERT_TRUE(orx_test::registerServer(progId, classId, program));
-    EXPECT_TRUE(ORX::serverFromProgID(progId, found));  // through CurVer, quotes removed
+    EXPECT_TRUE(ORX::curProgId(found, progId));
+    EXPECT_EQ(found, progId + L".1");
+    EXPECT_FALSE(ORX::curProgId(found, progId + L".1"));  // the version has no CurVer
+    EXPECT_TRUE(ORX::serverFromProgID(progId, found));    // through CurVer, quotes removed
     EXPECT_EQ(found, program);
     EXPECT_TRUE(ORX::serverFromProgID(progId + L".1", found));
     EXPECT_EQ(found, program);

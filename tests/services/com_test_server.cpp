@@ -12,6 +12,7 @@
 #include <string>
 
 #include "com_test_support.h"
+#include "test_support.h"
 
 namespace {
 
@@ -106,12 +107,6 @@ private:
     LONG m_references = 1;
 };
 
-std::wstring ownProgram() {
-    wchar_t path[MAX_PATH];
-    DWORD const length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return std::wstring(path, length);
-}
-
 int serve(CLSID const& classId, wchar_t const* quitEvent) {
     static SendDataServer server;
     HANDLE const quit = OpenEventW(SYNCHRONIZE, FALSE, quitEvent);
@@ -141,7 +136,8 @@ int main() {
     // Calls come in on COM's own threads; this one only waits for the quit event.
     if (SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {
         if (SUCCEEDED(CLSIDFromString(arguments[2], &classId)) &&
-            orx_test::registerServer(progId, classIdText, ownProgram().c_str())) {
+            orx_test::registerServer(progId, classIdText,
+                                     orx_test::programBeside("orx_com_test_server").c_str())) {
             status = serve(classId, arguments[3]);
         }
         orx_test::unregisterServer(progId, classIdText);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -75,11 +76,9 @@ TEST_F(CPerfTimerTest, TableAddsUpPerNameAndResets) {
     ORX::addPerfTime(L"b", 2.0, true);
     std::vector<Entry> const entries = table();
     ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(entries[0].name, L"b");
-    EXPECT_EQ(entries[0].topLevel, 3.5);
-    EXPECT_EQ(entries[0].nested, 0.5);
-    EXPECT_EQ(entries[0].calls, 3);
-    EXPECT_EQ(entries[1].name, L"a");
+    EXPECT_EQ(std::make_tuple(entries[0].name, entries[0].topLevel, entries[0].nested,
+                              entries[0].calls, entries[1].name),
+              std::make_tuple(std::wstring(L"b"), 3.5, 0.5, 3, std::wstring(L"a")));
 
     COrxString name(L"untouched");
     double seconds = -1.0;

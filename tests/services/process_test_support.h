@@ -26,9 +26,13 @@ inline std::string narrow(COrxString const& text) {
     return result;
 }
 
-// Starts arguments[0] (looked up in PATH when it has no "/"), its standard output going to
-// `output` unless that is -1. The process id, or -1.
-inline pid_t spawnProgram(std::vector<std::string> arguments, int output) {
+// Starts arguments[0] (looked up in PATH when it has no "/"). With `output`, its standard
+// output goes to a pipe whose reading end `output` receives. The process id, or -1.
+inline pid_t spawnProgram(std::vector<std::string> arguments, int* output = nullptr) {
+    int pipeEnds[2] = {-1, -1};
+    if (output != nullptr && pipe(pipeEnds) != 0) {
+        return -1;
+    }
     std::vector<char*> argv;
     for (std::string& argument : arguments) {
         argv.push_back(argument.data());
@@ -36,14 +40,19 @@ inline pid_t spawnProgram(std::vector<std::string> arguments, int output) {
     argv.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    if (output != -1) {
-        posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    if (output != nullptr) {
+        posix_spawn_file_actions_adddup2(&actions, pipeEnds[1], STDOUT_FILENO);
+        posix_spawn_file_actions_addclose(&actions, pipeEnds[0]);
     }
     pid_t pid = -1;
     if (posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) {
         pid = -1;
     }
     posix_spawn_file_actions_destroy(&actions);
+    if (output != nullptr) {
+        close(pipeEnds[1]);
+        *output = pipeEnds[0];
+    }
     return pid;
 }
 
@@ -51,8 +60,7 @@ inline pid_t spawnProgram(std::vector<std::string> arguments, int output) {
 inline std::string readAll(int input) {
     std::string text;
     char buffer[4096];
-    ssize_t got = 0;
-    while ((got = read(input, buffer, sizeof buffer)) > 0) {
+    for (ssize_t got = 0; (got = read(input, buffer, sizeof buffer)) > 0;) {
         text.append(buffer, static_cast<std::size_t>(got));
     }
     return text;
@@ -65,6 +73,13 @@ inline int waitForExit(pid_t pid) {
         return -1;
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+inline void terminate(pid_t pid) {
+    if (pid > 0) {
+        kill(pid, SIGTERM);
+        waitForExit(pid);
+    }
 }
 
 }  // namespace orx_test

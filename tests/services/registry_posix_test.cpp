@@ -25,32 +25,23 @@ constexpr int kShareMilliseconds = 3000;
 constexpr int kKillTrials = 5;
 constexpr int kWriteBeforeKillMs = 300;
 
-// A running orx_registry_worker whose output is collected.
+// A running orx_registry_worker whose output is collected; with a user id it runs as that
+// user and group (the caller must be root).
 class Worker {
 public:
-    // With a user id the worker runs as that user and group (the caller must be root).
     explicit Worker(std::vector<std::string> arguments, std::string const& userId = "") {
-        int out[2];
-        if (pipe(out) != 0) {
-            return;
-        }
         arguments.insert(arguments.begin(),
                          orx_test::programBeside("orx_registry_worker").string());
         if (!userId.empty()) {
             arguments.insert(arguments.begin(), {"setpriv", "--reuid=" + userId,
                                                  "--regid=" + userId, "--clear-groups", "--"});
         }
-        m_pid = orx_test::spawnProgram(arguments, out[1]);
-        close(out[1]);
-        m_output = out[0];
+        m_pid = orx_test::spawnProgram(arguments, &m_output);
     }
     ~Worker() { close(m_output); }
-    Worker(Worker const&) = delete;
-    Worker& operator=(Worker const&) = delete;
 
     bool started() const { return m_pid > 0; }
     void kill() const { ::kill(m_pid, SIGKILL); }
-
     // Waits for the end; the exit status and everything printed.
     int finish(std::string& output) const {
         output = orx_test::readAll(m_output);
@@ -75,20 +66,18 @@ protected:
     orx_test::RegistryFolder m_folder;
 };
 
+// The first row of the integrity check is "ok" only for an intact database.
 bool passesIntegrityCheck(std::string const& file) {
     sqlite3* db = nullptr;
-    std::string result;
-    if (sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
-        sqlite3_exec(
-            db, "PRAGMA integrity_check",
-            [](void* text, int, char** values, char**) {
-                *static_cast<std::string*>(text) += values[0] != nullptr ? values[0] : "";
-                return 0;
-            },
-            &result, nullptr);
-    }
+    sqlite3_stmt* check = nullptr;
+    bool const ok =
+        sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
+        sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &check, nullptr) == SQLITE_OK &&
+        sqlite3_step(check) == SQLITE_ROW &&
+        std::string(reinterpret_cast<char const*>(sqlite3_column_text(check, 0))) == "ok";
+    sqlite3_finalize(check);
     sqlite3_close(db);
-    return result == "ok";
+    return ok;
 }
 
 // The last number the worker printed in full (the last write it saw return), or -1.
@@ -124,8 +113,7 @@ TEST(RegistryFoldersTest, HivesFollowTheXdgConfigFolders) {
 
     // The folder is looked up at every call; a hive that was never written is empty.
     orx_test::ScopedEnv other("ORX_REGISTRY_DIR", (folder / "other").string());
-    unsigned long number = 0;
-    EXPECT_FALSE(ORX::regRead(L"App", L"User", number));
+    EXPECT_FALSE(orx_test::readValue<unsigned long>(L"App", L"User"));
     EXPECT_FALSE(fs::exists(folder / "other"));
     ORX::curVerSet(nullptr);
 }
@@ -138,35 +126,24 @@ TEST_F(RegistryProcessesTest, BinaryValuesAreKeptByteForByte) {
     std::string const bytes("\x01\x00\xff\xfe\x80\x7f", 6);
     sqlite3* db = nullptr;
     ASSERT_EQ(sqlite3_open(hiveFile().c_str(), &db), SQLITE_OK);
-    sqlite3_stmt* plant = nullptr;
-    ASSERT_EQ(sqlite3_prepare_v2(db,
-                                 "INSERT INTO vals(key, name, folded, type, data) SELECT key, "
-                                 "'Blob', 'BLOB', 3, ? FROM vals WHERE folded = 'MARKER'",
-                                 -1, &plant, nullptr),
-              SQLITE_OK);
-    sqlite3_bind_blob(plant, 1, bytes.data(), static_cast<int>(bytes.size()), SQLITE_STATIC);
-    EXPECT_EQ(sqlite3_step(plant), SQLITE_DONE);
-    sqlite3_finalize(plant);
+    // Runs `sql` with the bytes bound to its "?"; the first column of its first row.
+    auto const run = [db, &bytes](char const* sql) {
+        sqlite3_stmt* statement = nullptr;
+        sqlite3_prepare_v2(db, sql, -1, &statement, nullptr);
+        sqlite3_bind_blob(statement, 1, bytes.data(), static_cast<int>(bytes.size()), nullptr);
+        int const result =
+            sqlite3_step(statement) == SQLITE_ROW ? sqlite3_column_int(statement, 0) : -1;
+        sqlite3_finalize(statement);
+        return result;
+    };
+    run("INSERT INTO vals(key, name, folded, type, data) "
+        "SELECT key, 'Blob', 'BLOB', 3, ? FROM vals WHERE folded = 'MARKER'");
 
     orx_test::Key const copy(ORX::regCreateKey(HKEY_CURRENT_USER, L"Software\\Copy"));
     EXPECT_TRUE(ORX::regCopyTree(copy, source, true));
-    unsigned long number = 0;
-    EXPECT_TRUE(ORX::regRead(copy, L"Blob", number));  // the lenient read takes any type
-    EXPECT_EQ(number, 0xfeff0001ul);
-    sqlite3_stmt* query = nullptr;
-    ASSERT_EQ(sqlite3_prepare_v2(db, "SELECT type, data FROM vals WHERE folded = 'BLOB'", -1,
-                                 &query, nullptr),
-              SQLITE_OK);
-    int copies = 0;
-    while (sqlite3_step(query) == SQLITE_ROW) {
-        ++copies;
-        EXPECT_EQ(sqlite3_column_int(query, 0), 3);
-        EXPECT_EQ(std::string(static_cast<char const*>(sqlite3_column_blob(query, 1)),
-                              static_cast<std::size_t>(sqlite3_column_bytes(query, 1))),
-                  bytes);
-    }
-    EXPECT_EQ(copies, 2);
-    sqlite3_finalize(query);
+    // The lenient number read takes any type.
+    EXPECT_EQ(orx_test::readValue<unsigned long>(copy, L"Blob"), 0xfeff0001ul);
+    EXPECT_EQ(run("SELECT count(*) FROM vals WHERE folded = 'BLOB' AND type = 3 AND data = ?"), 2);
     sqlite3_close(db);
 }
 
@@ -207,9 +184,8 @@ TEST_F(RegistryProcessesTest, ConcurrentWritersLoseNothingAndReadNothingTorn) {
         for (int round = 0; round < rounds[static_cast<std::size_t>(id)]; ++round) {
             COrxString name;
             name.format(L"Own\\%d_%d", id, round);
-            unsigned long number = 0;
-            ASSERT_TRUE(ORX::regRead(L"Worker", name, number)) << id << " " << round;
-            ASSERT_EQ(number, static_cast<unsigned long>(round));
+            ASSERT_EQ(orx_test::readValue<unsigned long>(L"Worker", name),
+                      static_cast<unsigned long>(round));
         }
     }
     EXPECT_TRUE(passesIntegrityCheck(hiveFile()));
@@ -230,9 +206,9 @@ TEST_F(RegistryProcessesTest, AKilledWriterLeavesEveryCommittedValue) {
         for (long n = 0; n <= committed; ++n) {
             COrxString name;
             name.format(L"K%ld", n);
-            unsigned long number = 0;
-            ASSERT_TRUE(ORX::regRead(L"Worker", name, number)) << "trial " << trial << " K" << n;
-            ASSERT_EQ(number, static_cast<unsigned long>(n));
+            ASSERT_EQ(orx_test::readValue<unsigned long>(L"Worker", name),
+                      static_cast<unsigned long>(n))
+                << "trial " << trial;
         }
     }
 }

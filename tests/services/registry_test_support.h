@@ -1,6 +1,6 @@
-// Shared by the registry and server tests: a key that closes itself, unique names, and a
-// fixture that gives each test its own base path (and, natively, its own registry folder)
-// and removes what the test wrote.
+// Shared by the registry and server tests: a key that closes itself, unique names, a read
+// that checks a failed read left its output alone, and a fixture that gives each test its own
+// base path (natively also its own registry folder) and removes what the test wrote.
 #ifndef ORX_TESTS_SERVICES_REGISTRY_TEST_SUPPORT_H
 #define ORX_TESTS_SERVICES_REGISTRY_TEST_SUPPORT_H
 
@@ -8,6 +8,8 @@
 
 #include <atomic>
 #include <chrono>
+#include <optional>
+#include <utility>
 
 #include "orx/services/registry.h"
 #include "test_support.h"
@@ -23,7 +25,6 @@ inline COrxString uniqueName(wchar_t const* stem) {
     return name;
 }
 
-// Closes its key when it goes out of scope.
 class Key {
 public:
     explicit Key(HKEY key) : m_key(key) {}
@@ -37,15 +38,23 @@ public:
 
     operator HKEY() const { return m_key; }
     HKEY get() const { return m_key; }
-    HKEY release() {
-        HKEY const key = m_key;
-        m_key = nullptr;
-        return key;
-    }
+    HKEY release() { return std::exchange(m_key, nullptr); }
 
 private:
     HKEY m_key;
 };
+
+// What regRead gives for `name` of an application or a key; nothing when it answers false,
+// and then its output must still hold `before`.
+template <typename T, typename Where>
+std::optional<T> readValue(Where const& where, wchar_t const* name, T const& before = T()) {
+    T value = before;
+    if (ORX::regRead(where, name, value)) {
+        return value;
+    }
+    EXPECT_EQ(value, before) << "a failed read changed its output";
+    return std::nullopt;
+}
 
 #ifndef _WIN32
 // ORX_REGISTRY_DIR names a new folder until the scope ends.
@@ -66,7 +75,6 @@ protected:
         ORX::regBasePathSet(m_base);
         ORX::curVerSet(L"2017.0");
     }
-
     void TearDown() override {
         ORX::regDeleteTree(HKEY_CURRENT_USER, m_base);
         ORX::regDeleteTree(HKEY_LOCAL_MACHINE, m_base);
@@ -74,28 +82,15 @@ protected:
         ORX::regBasePathSet(L"");
     }
 
-    // The text value `name` of root\keyPath; the null string when it cannot be read.
-    static COrxString textAt(HKEY root, wchar_t const* keyPath, wchar_t const* name) {
-        Key const key(ORX::regOpenKey(root, keyPath, false));
-        COrxString text;
-        return key.get() != nullptr && ORX::regRead(key, name, text) ? text : COrxString();
+    static std::optional<COrxString> textAt(HKEY root, wchar_t const* keyPath,
+                                            wchar_t const* name) {
+        return readValue<COrxString>(Key(ORX::regOpenKey(root, keyPath, false)), name);
     }
-
     COrxString const& base() const { return m_base; }
     COrxString path(wchar_t const* sub) const { return m_base + L"\\" + sub; }
 
-    // Natively: no hive was created in the test's registry folder.
-    bool storageUntouched() const {
-#ifdef _WIN32
-        return true;
-#else
-        return fs::is_empty(m_folder.folder());
-#endif
-    }
-
-private:
 #ifndef _WIN32
-    RegistryFolder m_folder;
+    RegistryFolder m_folder;  // natively, left empty by a test that may write nothing
 #endif
     COrxString m_base;
 };

@@ -1,18 +1,14 @@
-// A process that writes and reads settings for the multi-process registry tests, in the
-// registry folder its environment names (ORX_REGISTRY_DIR).
-//
-//   orx_registry_worker share <id> <milliseconds>
-//     Until the time is up, round after round: writes its own number value Own\<id>_<round>,
-//     and the shared text and list values, each filled with one token "<id>:<round>", then
-//     reads the shared values (which any worker may have written last) and its previous own
-//     value. Prints the number of rounds. Exit status 0; 1 after a torn or wrong read; 2
-//     after a failed write or read.
-//   orx_registry_worker endless
-//     Writes K<n> = n for n = 0, 1, ... and prints n once the write has returned, until it is
-//     killed.
-//   orx_registry_worker machine <number>
-//     Reads the number value Software\OrxWorker\Machine of the machine hive. Exit status 0
-//     when it holds the number, 1 when it holds another, 2 when it cannot be read.
+// Writes and reads settings for the multi-process registry tests, in the registry folder
+// ORX_REGISTRY_DIR names. Exit status 0 when all went right, 1 after a torn or wrong read, 2
+// after a failed write or read.
+//   share <id> <ms>  until the time is up, round after round: writes its own number
+//                    Own\<id>_<round> and the shared text and list, each filled with one token
+//                    "<id>:<round>", then reads the shared values (any worker may have written
+//                    them last) and its previous own value. Prints the number of rounds.
+//   endless          writes K<n> = n for n = 0, 1, ..., printing n once the write has
+//                    returned, until it is killed.
+//   machine <number> reads Software\OrxWorker\Machine of the machine hive.
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -26,12 +22,6 @@ constexpr wchar_t const* kApp = L"Worker";
 // Tokens in the shared text (about 1 KB) and in the shared list.
 constexpr int kTextTokens = 100;
 constexpr int kListTokens = 20;
-
-COrxString tokenOf(int id, int round) {
-    COrxString token;
-    token.format(L"%d:%d;", id, round);
-    return token;
-}
 
 COrxString repeated(COrxString const& token, int count) {
     COrxString text;
@@ -48,22 +38,17 @@ bool isWhole(COrxString const& text) {
 }
 
 bool isWhole(COrxArrayTempl<COrxString> const& list) {
-    if (list.len() != static_cast<unsigned long>(kListTokens)) {
-        return false;
-    }
-    for (unsigned long i = 1; i < list.len(); ++i) {
-        if (list[static_cast<int>(i)] != list[0]) {
-            return false;
-        }
-    }
-    return true;
+    return list.len() == static_cast<unsigned long>(kListTokens) &&
+           std::all_of(list.entry(), list.entry() + list.len(),
+                       [&list](COrxString const& token) { return token == list[0]; });
 }
 
 // 0 when the round's writes and reads were right, else the exit status.
 int shareRound(int id, int round) {
     COrxString own;
     own.format(L"Own\\%d_%d", id, round);
-    COrxString const token = tokenOf(id, round);
+    COrxString token;
+    token.format(L"%d:%d;", id, round);
     COrxArrayTempl<COrxString> list;
     for (int i = 0; i < kListTokens; ++i) {
         list.append(token);
@@ -109,10 +94,7 @@ int machine(unsigned long expected) {
     unsigned long number = 0;
     bool const read = key != nullptr && ORX::regRead(key, L"Machine", number);
     ORX::regCloseKey(key);
-    if (!read) {
-        return 2;
-    }
-    return number == expected ? 0 : 1;
+    return !read ? 2 : number == expected ? 0 : 1;
 }
 
 int endless() {

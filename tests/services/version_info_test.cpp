@@ -13,6 +13,7 @@
 
 #include <fstream>
 #include <string>
+#include <utility>
 
 #include "orx/services/version.h"
 #include "test_support.h"
@@ -44,20 +45,18 @@ std::wstring libraryFile() {
 }
 
 void expectLibraryStrings(ORX::CVersionInfo const& info) {
-    EXPECT_EQ(std::wstring(info.GetCompanyName()), L"Kelvara");
-    EXPECT_EQ(std::wstring(info.GetProductName()), L"Orx");
-    EXPECT_EQ(std::wstring(info.GetProductVersion()), L"2017.0.23.64");
+    EXPECT_STREQ(info.GetCompanyName(), L"Kelvara");
+    EXPECT_STREQ(info.GetProductName(), L"Orx");
+    EXPECT_STREQ(info.GetProductVersion(), L"2017.0.23.64");
     EXPECT_EQ(std::wstring(info.GetCopyright()).substr(0, 6), L"\u00a9 2017");
-    EXPECT_EQ(std::wstring(info.GetTrademark()), L"");  // the library has none
+    EXPECT_STREQ(info.GetTrademark(), L"");  // the library has none
 }
 
 void expectNoData(ORX::CVersionInfo const& info, char const* what) {
-    std::wstring const none = ORX::CVersionInfo::NoVerDataString();
-    EXPECT_EQ(info.GetCompanyName(), none) << what;
-    EXPECT_EQ(info.GetCopyright(), none) << what;
-    EXPECT_EQ(info.GetProductName(), none) << what;
-    EXPECT_EQ(info.GetTrademark(), none) << what;
-    EXPECT_EQ(info.GetProductVersion(), none) << what;
+    for (wchar_t const* text : {info.GetCompanyName(), info.GetCopyright(), info.GetProductName(),
+                                info.GetTrademark(), info.GetProductVersion()}) {
+        EXPECT_STREQ(text, ORX::CVersionInfo::NoVerDataString()) << what;
+    }
 }
 
 #ifdef _WIN32
@@ -84,10 +83,6 @@ std::wstring resourceString(std::wstring const& block, wchar_t const* name) {
 
 }  // namespace
 
-TEST(VersionTest, VersionTextIs2017Point0) {
-    EXPECT_EQ(std::wstring(ORX::version()), L"2017.0");
-}
-
 #ifdef _WIN32
 TEST(VersionTest, DllCarriesItsVersionResource) {
     std::wstring const dll = libraryFile();
@@ -108,12 +103,14 @@ TEST(VersionTest, DllCarriesItsVersionResource) {
 #endif
 
 TEST(CVersionInfoTest, ReadsTheLibrarysStringsBackFromItsFile) {
+    EXPECT_STREQ(ORX::version(), L"2017.0");
     expectLibraryStrings(ORX::CVersionInfo(libraryModule()));
     std::wstring const file = libraryFile();
     ASSERT_FALSE(file.empty());
     expectLibraryStrings(ORX::CVersionInfo(file.c_str()));
 }
 
+// Copies own their strings: they outlive the original.
 TEST(CVersionInfoTest, CopiesKeepTheirStrings) {
     auto* const original = new ORX::CVersionInfo(libraryModule());
     ORX::CVersionInfo const copy(*original);
@@ -127,7 +124,7 @@ TEST(CVersionInfoTest, CopiesKeepTheirStrings) {
 }
 
 TEST(CVersionInfoTest, FilesWithoutVersionDataGiveTheNoDataText) {
-    EXPECT_EQ(std::wstring(ORX::CVersionInfo::NoVerDataString()), L"<no version info found>");
+    EXPECT_STREQ(ORX::CVersionInfo::NoVerDataString(), L"<no version info found>");
     expectNoData(ORX::CVersionInfo(), "the test program");
     expectNoData(ORX::CVersionInfo(nullptr), "null module");
     expectNoData(ORX::CVersionInfo(static_cast<wchar_t const*>(nullptr)), "null file name");
@@ -137,12 +134,12 @@ TEST(CVersionInfoTest, FilesWithoutVersionDataGiveTheNoDataText) {
     orx_test::ScratchDirectory scratch;
     std::string head(1024, '\0');
     std::ifstream(fs::path(libraryFile()), std::ios::binary).read(head.data(), 1024);
-    scratch.createFile(L"empty.bin", "");
-    scratch.createFile(L"junk.bin", std::string(4096, '\x7f'));
-    scratch.createFile(L"truncated.bin", head);
-    expectNoData(ORX::CVersionInfo((scratch / L"empty.bin").c_str()), "empty file");
-    expectNoData(ORX::CVersionInfo((scratch / L"junk.bin").c_str()), "junk file");
-    expectNoData(ORX::CVersionInfo((scratch / L"truncated.bin").c_str()), "truncated library");
+    for (auto const& [name, contents] : {std::pair<wchar_t const*, std::string>{L"empty", ""},
+                                         {L"junk", std::string(4096, '\x7f')},
+                                         {L"truncated library", head}}) {
+        scratch.createFile(name, contents);
+        expectNoData(ORX::CVersionInfo((scratch / name).c_str()), fs::path(name).string().c_str());
+    }
 }
 
 TEST(CVersionInfoTest, VersionCompareIsNumericOverTheShorterText) {
