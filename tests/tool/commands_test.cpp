@@ -113,62 +113,42 @@ TEST(OrxRoundTripTest, DxfAndJsonPreservePointsAndBulgesExactly) {
     }
 }
 
-struct AreaCase {
-    char const* name;
-    std::vector<std::string> command;  // the operation and the two inputs
-    double area;                       // of all result regions together
-};
-
-void PrintTo(AreaCase const& c, std::ostream* os) {
-    *os << c.name;
-}
-
-class OrxOperationTest : public testing::TestWithParam<AreaCase> {};
-
 // Results are checked through `orx info` of the written file, so each case also reads back
-// what the operation wrote.
-TEST_P(OrxOperationTest, ResultHasTheExpectedArea) {
+// what the operation wrote. The plate is [0,10] x [0,6] with a circular hole (area pi) on the
+// left and an arched window (area 2 + pi/2 + 2) on the right; the cutter covers x from 5 to 12.
+TEST(OrxOperationTest, ResultHasTheExpectedArea) {
+    struct AreaCase {
+        std::vector<std::string> command;  // the operation and the two inputs
+        double area;                       // of all result regions together
+    };
+    AreaCase const cases[] = {
+        // The second square runs clockwise; the tool orients both operands alike.
+        {{"bool", "union", "square-a.json", "square-b-clockwise.json"}, 7},
+        {{"bool", "diff", "square-a.json", "square-b-clockwise.json"}, 3},
+        {{"bool", "sect", "square-a.json", "square-b-clockwise.json"}, 1},
+        // A circle of radius 1 about the square's corner (2, 2): a quarter of it inside.
+        {{"bool", "union", "square-a.json", "circle.json"}, 4 + 0.75 * kPi},
+        {{"bool", "diff", "square-a.json", "circle.json"}, 4 - 0.25 * kPi},
+        {{"bool", "sect", "square-a.json", "circle.json"}, 0.25 * kPi},
+        {{"bool", "sect", "square-a.json", "cutter.json"}, 0},
+        {{"region", "diff", "plate.json", "cutter.json"}, 30 - kPi},
+        {{"region", "sect", "plate.json", "cutter.json"}, 27 - kPi / 2},
+        {{"region", "union", "plate.json", "cutter.json"}, 56 + 30 - kPi},
+        {{"region", "diff", "cutter.json", "plate.json"}, 56 - 30 + (4 + kPi / 2 - 1)},
+    };
     Scratch scratch;
-    std::vector<std::string> args = GetParam().command;
-    for (std::size_t i = 2; i < args.size(); ++i) {
-        args[i] = dataFile(args[i]);
-    }
-    for (char const* output : {"r.json", "r.dxf"}) {
-        std::vector<std::string> withOutput = args;
-        withOutput.insert(withOutput.end(), {"-o", output});
-        ToolRun run = scratch.orx(withOutput);
-        ASSERT_EQ(run.status, 0) << run.err;
-        ToolRun info = scratch.orx({"info", output});
-        EXPECT_NEAR(regionAreaSum(info.out), GetParam().area, 1e-6) << info.out;
+    for (AreaCase const& c : cases) {
+        for (char const* output : {"r.json", "r.dxf"}) {
+            SCOPED_TRACE(c.command[0] + " " + c.command[1] + " " + c.command[2] + " " +
+                         c.command[3] + " -o " + output);
+            ToolRun run = scratch.orx({c.command[0], c.command[1], dataFile(c.command[2]),
+                                       dataFile(c.command[3]), "-o", output});
+            ASSERT_EQ(run.status, 0) << run.err;
+            ToolRun info = scratch.orx({"info", output});
+            EXPECT_NEAR(regionAreaSum(info.out), c.area, 1e-6) << info.out;
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Booleans, OrxOperationTest,
-    testing::Values(
-        // The second square runs clockwise; the tool orients both operands alike.
-        AreaCase{"SquaresUnion", {"bool", "union", "square-a.json", "square-b-clockwise.json"}, 7},
-        AreaCase{"SquaresDiff", {"bool", "diff", "square-a.json", "square-b-clockwise.json"}, 3},
-        AreaCase{"SquaresSect", {"bool", "sect", "square-a.json", "square-b-clockwise.json"}, 1},
-        // A circle of radius 1 about the square's corner (2, 2): a quarter of it inside.
-        AreaCase{"CircleUnion", {"bool", "union", "square-a.json", "circle.json"}, 4 + 0.75 * kPi},
-        AreaCase{"CircleDiff", {"bool", "diff", "square-a.json", "circle.json"}, 4 - 0.25 * kPi},
-        AreaCase{"CircleSect", {"bool", "sect", "square-a.json", "circle.json"}, 0.25 * kPi},
-        AreaCase{"DisjointSect", {"bool", "sect", "square-a.json", "cutter.json"}, 0}),
-    [](testing::TestParamInfo<AreaCase> const& p) { return std::string(p.param.name); });
-
-// The plate [0,10] x [0,6] with a circular hole (area pi) on the left and an arched window
-// (area 2 + pi/2 + 2) on the right; the cutter covers x from 5 to 12.
-INSTANTIATE_TEST_SUITE_P(
-    Regions, OrxOperationTest,
-    testing::Values(
-        AreaCase{"PlateDiff", {"region", "diff", "plate.json", "cutter.json"}, 30 - kPi},
-        AreaCase{"PlateSect", {"region", "sect", "plate.json", "cutter.json"}, 27 - kPi / 2},
-        AreaCase{"PlateUnion", {"region", "union", "plate.json", "cutter.json"}, 56 + 30 - kPi},
-        AreaCase{"CutterMinusPlate",
-                 {"region", "diff", "cutter.json", "plate.json"},
-                 56 - 30 + (4 + kPi / 2 - 1)}),
-    [](testing::TestParamInfo<AreaCase> const& p) { return std::string(p.param.name); });
 
 TEST(OrxRenderTest, DrawsTrueArcsRegionsAndMarkers) {
     Scratch scratch;
