@@ -74,9 +74,9 @@ TEST(OrxDxfTest, PolylineSeenFromBelowIsMirroredIntoThePlane) {
 
 TEST(OrxDxfTest, AcceptsWindowsLineEndings) {
     Scratch scratch;
-    std::string text = scratch.orx({"convert", dataFile("square-a.json"), "-o", "a.dxf"}).out;
-    std::string dxf = scratch.read("a.dxf"), crlf;
-    for (char c : dxf) {
+    ASSERT_EQ(scratch.orx({"convert", dataFile("square-a.json"), "-o", "a.dxf"}).status, 0);
+    std::string crlf;
+    for (char c : scratch.read("a.dxf")) {
         crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
     }
     scratch.write("crlf.dxf", crlf);
@@ -85,32 +85,18 @@ TEST(OrxDxfTest, AcceptsWindowsLineEndings) {
     EXPECT_NE(run.out.find("area 4\n"), std::string::npos);
 }
 
-// Values that a decimal round trip with too few digits would change.
+// Values that a decimal round trip with too few digits would change. JSON compares numbers
+// by value (1 equals 1.0), so the files read back equal the source number for number.
 TEST(OrxRoundTripTest, DxfAndJsonPreservePointsAndBulgesExactly) {
     Scratch scratch;
-    json original =
-        json::parse(scratch.orx({"convert", dataFile("awkward.json"), "-o", "0.json"}).status == 0
-                        ? scratch.read("0.json")
-                        : "null");
-    ASSERT_TRUE(original.is_array());
+    ASSERT_EQ(scratch.orx({"convert", dataFile("awkward.json"), "-o", "0.json"}).status, 0);
     ASSERT_EQ(scratch.orx({"convert", "0.json", "-o", "1.dxf"}).status, 0);
     ASSERT_EQ(scratch.orx({"convert", "1.dxf", "-o", "2.json"}).status, 0);
     ASSERT_EQ(scratch.orx({"convert", "2.json", "-o", "3.dxf"}).status, 0);
     EXPECT_EQ(scratch.read("1.dxf"), scratch.read("3.dxf"));
-    json again = json::parse(scratch.read("2.json"));
-    EXPECT_EQ(again, original);
-
-    json source = json::parse(std::ifstream(dataFile("awkward.json")));
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        EXPECT_EQ(again[i]["closed"], source[i]["closed"]);
-        for (std::size_t j = 0; j < source[i]["vertices"].size(); ++j) {
-            for (char const* key : {"x", "y", "bulge"}) {
-                EXPECT_EQ(again[i]["vertices"][j][key].get<double>(),
-                          source[i]["vertices"][j][key].get<double>())
-                    << "polyline " << i << " vertex " << j << " " << key;
-            }
-        }
-    }
+    json const source = json::parse(std::ifstream(dataFile("awkward.json")));
+    EXPECT_EQ(json::parse(scratch.read("0.json")), source);
+    EXPECT_EQ(json::parse(scratch.read("2.json")), source);
 }
 
 // Results are checked through `orx info` of the written file, so each case also reads back

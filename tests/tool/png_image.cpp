@@ -11,54 +11,40 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Reads a deflate stream bit by bit, least significant bit first.
-class BitReader {
-public:
-    BitReader(Bytes const& data, std::size_t start) : m_data(data), m_pos(start) {}
+// A deflate stream read bit by bit, least significant bit first.
+struct BitReader {
+    Bytes const& data;
+    std::size_t bit;  // the position, in bits from the start of `data`
 
     unsigned bits(int n) {
         unsigned value = 0;
-        for (int i = 0; i < n; ++i) {
-            if (m_pos >= m_data.size()) {
+        for (int i = 0; i < n; ++i, ++bit) {
+            if (bit / 8 >= data.size()) {
                 throw std::runtime_error("compressed data ends early");
             }
-            value |= ((m_data[m_pos] >> m_bit) & 1u) << i;
-            if (++m_bit == 8) {
-                m_bit = 0;
-                ++m_pos;
-            }
+            value |= ((data[bit / 8] >> bit % 8) & 1u) << i;
         }
         return value;
     }
-
-    void alignToByte() {
-        if (m_bit != 0) {
-            m_bit = 0;
-            ++m_pos;
-        }
-    }
-
-private:
-    Bytes const& m_data;
-    std::size_t m_pos;
-    int m_bit = 0;
 };
 
 // A canonical Huffman code given by its code lengths, decoded one bit at a time.
-class Huffman {
-public:
-    explicit Huffman(std::vector<int> const& lengths) : m_symbols(lengths.size()) {
+struct Huffman {
+    std::array<int, 16> count{};  // codes of each length
+    std::vector<int> symbols;     // in code order
+
+    explicit Huffman(std::vector<int> const& lengths) : symbols(lengths.size()) {
         for (int len : lengths) {
-            ++m_count[len];
+            ++count[len];
         }
-        m_count[0] = 0;
+        count[0] = 0;
         std::array<int, 17> offset{};
         for (int len = 1; len < 16; ++len) {
-            offset[len + 1] = offset[len] + m_count[len];
+            offset[len + 1] = offset[len] + count[len];
         }
         for (std::size_t symbol = 0; symbol < lengths.size(); ++symbol) {
             if (lengths[symbol] != 0) {
-                m_symbols[offset[lengths[symbol]]++] = static_cast<int>(symbol);
+                symbols[offset[lengths[symbol]]++] = static_cast<int>(symbol);
             }
         }
     }
@@ -67,19 +53,15 @@ public:
         int code = 0, first = 0, index = 0;
         for (int len = 1; len < 16; ++len) {
             code |= static_cast<int>(in.bits(1));
-            if (code - first < m_count[len]) {
-                return m_symbols[index + code - first];
+            if (code - first < count[len]) {
+                return symbols[index + code - first];
             }
-            index += m_count[len];
-            first = (first + m_count[len]) << 1;
+            index += count[len];
+            first = (first + count[len]) << 1;
             code <<= 1;
         }
         throw std::runtime_error("bad Huffman code");
     }
-
-private:
-    std::array<int, 16> m_count{};
-    std::vector<int> m_symbols;
 };
 
 constexpr int kLengthBase[] = {3,  4,  5,  6,  7,  8,  9,  10, 11,  13,  15,  17,  19,  23, 27,
@@ -151,13 +133,13 @@ Bytes inflateZlib(Bytes const& data) {
     if (data.size() < 2 || (data[0] & 0x0f) != 8) {
         throw std::runtime_error("not a deflate stream");
     }
-    BitReader in(data, 2);
+    BitReader in{data, 16};
     Bytes out;
     for (bool last = false; !last;) {
         last = in.bits(1) != 0;
         unsigned const type = in.bits(2);
         if (type == 0) {
-            in.alignToByte();
+            in.bit = (in.bit + 7) / 8 * 8;
             unsigned const length = in.bits(16);
             in.bits(16);  // the one's complement of the length
             for (unsigned i = 0; i < length; ++i) {
