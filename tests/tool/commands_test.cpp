@@ -125,8 +125,7 @@ TEST(OrxOperationTest, ResultHasTheExpectedArea) {
     Scratch scratch;
     for (AreaCase const& c : cases) {
         for (char const* output : {"r.json", "r.dxf"}) {
-            SCOPED_TRACE(c.command[0] + " " + c.command[1] + " " + c.command[2] + " " +
-                         c.command[3] + " -o " + output);
+            SCOPED_TRACE(c.command[1] + " " + c.command[2] + " " + c.command[3] + " " + output);
             ToolRun run = scratch.orx({c.command[0], c.command[1], dataFile(c.command[2]),
                                        dataFile(c.command[3]), "-o", output});
             ASSERT_EQ(run.status, 0) << run.err;

@@ -16,10 +16,11 @@ std::string dxfPolyline(std::string const& groups) {
 void expectOneLineError(std::vector<std::string> const& args, std::string const& message,
                         std::string const& file = "", std::string const& content = "") {
     Scratch scratch;
-    scratch.write("ok.json", R"([{"closed": true, "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0},
-                                  {"x": 1, "y": 1}]}])");
-    scratch.write("open.json", R"([{"closed": false, "vertices": [{"x": 0, "y": 0},
-                                    {"x": 1, "y": 0}]}])");
+    scratch.write(
+        "ok.json",
+        R"([{"closed": true, "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 1}, {"x": 0, "y": 1}]}])");
+    scratch.write("open.json",
+                  R"([{"closed": false, "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0}]}])");
     scratch.write("open.dxf", dxfPolyline("70\n0\n10\n0\n20\n0\n10\n1\n20\n0\n"));
     if (!file.empty()) {
         scratch.write(file, content);

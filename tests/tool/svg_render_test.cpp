@@ -26,9 +26,7 @@ double coveredWeight(int alpha) {
 }
 
 struct Coverage {
-    double area = 0.0;  // in drawing units
-    double centroidX = 0.0;
-    double centroidY = 0.0;  // drawing coordinates, y up
+    double area = 0.0, centroidX = 0.0, centroidY = 0.0;  // drawing units and coordinates, y up
 };
 
 // The value of the first attribute `name` after position `from`.
