@@ -34,113 +34,106 @@ double minorBulge(COrxPoint3d const& a, COrxPoint3d const& b, double r) {
     return (r - std::sqrt(r * r - h * h)) / h;
 }
 
-std::vector<FixedCase> const& fixedCases() {
-    // 18 without a rise: when the rise reaches the half width the arcs stand vertical on the
-    // sides (centres on the springing line, radius g_tang_radius(2, 4) for rise 4 over half
-    // width 2); below it both arcs lie on one circle through the springing points and the
-    // crown (radius 8.5 for rise 1 over half width 4).
-    double const r18 = 5.0, r18low = 8.5;
-    // 19: both arcs on the circle of radius (d0^2/4 + d1^2) / (2 d1).
-    double const r19 = 13.0 / 6;
-    double const h21 = std::sqrt(0.5) * 2;
-    double const c21 = std::cos(30 * ORX::kPi / 180), s21 = std::sin(30 * ORX::kPi / 180);
-    // 801: the head is the circle of diameter max(d2, d0) whose lowest point is d1 below the
-    // top of the half-circle end: centre (0, -7); the sides meet it sqrt(3) above that.
-    double const y801 = 2 - 10 + 1 + kSqrt3;
-    double const r34 = 1 / std::cos(ORX::kPi / 6);
-    static std::vector<FixedCase> const cases = {
-        {"rectangle", 1, {2, 3}, {0, 0, 0, 2, 0, 0, 2, 3, 0, 0, 3, 0}},
-        {"trapezoid_cut_right", 2, {4, 3, -1}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 3, 3, 0}},
-        {"trapezoid_cut_left", 2, {4, 3, 1}, {0, 0, 0, 4, 0, 0, 1, 3, 0, 0, 3, 0}},
-        {"trapezoid_as_triangle", 2, {4, 3, 0}, {0, 0, 0, 4, 0, 0, 0, 3, 0}},
-        {"taper_absolute", 3, {-4, 2, -3}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 2, 0}},
-        {"taper_zero_side_normed", 3, {4, 0, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 0}},
-        {"quadrilateral_cut_right", 4, {4, 3, 5, -1}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 3, 5, 0}},
-        {"quadrilateral_left_side", 4, {4, 3, 5, 1}, {0, 0, 0, 4, 0, 0, 1, 5, 0, 0, 3, 0}},
-        {"gable_left_higher", 5, {6, 4, 2, 1}, {0, 0, 0, 6, 0, 0, 6, 2, 0, 1, 4, 0, 0, 4, 0}},
-        {"gable_right_higher", 5, {6, 2, 4, 1}, {0, 0, 0, 6, 0, 0, 6, 4, 0, 5, 4, 0, 0, 2, 0}},
-        {"hexagon_half", 6, {6, 5, 3, 1}, {0, 0, 0, 6, 0, 0, 6, 3, 0, 4, 5, 0, 2, 5, 0, 0, 3, 0}},
-        {"hexagon_whole",
-         6,
-         {6, 5, 3, -1},
-         {0, 0, 0, 6, 0, 0, 6, 3, 0, 3.5, 5, 0, 2.5, 5, 0, 0, 3, 0}},
-        {"symmetric_half", 7, {6, 4, 1}, {0, 0, 0, 6, 0, 0, 4, 4, 0, 2, 4, 0}},
-        {"symmetric_whole", 7, {6, 4, -1}, {0, 0, 0, 6, 0, 0, 3.5, 4, 0, 2.5, 4, 0}},
-        {"trapezoid_offset_top", 8, {6, 4, 1, 3}, {0, 0, 0, 6, 0, 0, 4, 4, 0, 1, 4, 0}},
-        {"right_angle_left", 9, {3, 4}, {0, 0, 0, 3, 0, 0, 0, 4, 0}},
-        {"right_angle_right", 9, {-3, 4}, {0, 0, 0, 3, 0, 0, 3, 4, 0}},
-        {"isosceles", 10, {4, 3}, {0, 0, 0, 4, 0, 0, 2, 3, 0}},
-        {"house", 11, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 2, 5, 0, 0, 3, 0}},
-        {"triangle", 12, {4, 3, 1}, {0, 0, 0, 4, 0, 0, 1, 3, 0}},
-        {"segmental_arch", 13, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
-        {"segmental_arch_from_crown", 13, {4, 5, -2}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
-        {"segmental_arch_no_sides", 13, {4, 1, -1}, {0, 0, 0, 4, 0, 0.5}},
-        {"semicircular_arch", 14, {4, 5}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
-        {"half_disc", 14, {4, 2}, {0, 0, 0, 4, 0, 1.0}},
-        {"rounded_top",
-         17,
-         {6, 5, 3},
-         {0, 0, 0, 6, 0, 0, 6, 3, kQuarter, 4, 5, 0, 2, 5, kQuarter, 0, 3, 0}},
-        {"rounded_meet", 17, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
-        {"rounded_none", 17, {6, 3, 3}, {0, 0, 0, 6, 0, 0, 6, 3, 0, 0, 3, 0}},
-        {"pointed_rise",
-         18,
-         {4, 6, 2, 1},
-         {0, 0, 0, 4, 0, 0, 4, 2, 1 / (std::sqrt(20.0) / 2), 2, 6, 1 / (std::sqrt(20.0) / 2), 0, 2,
-          0}},
-        {"pointed_radius",
-         18,
-         {4, 6, 2},
-         {0, 0, 0, 4, 0, 0, 4, 2, minorBulge(pt(4, 2), pt(2, 6), r18), 2, 6,
-          minorBulge(pt(2, 6), pt(0, 2), r18), 0, 2, 0}},
-        {"pointed_low_rise",
-         18,
-         {8, 3, 2},
-         {0, 0, 0, 8, 0, 0, 8, 2, minorBulge(pt(8, 2), pt(4, 3), r18low), 4, 3,
-          minorBulge(pt(4, 3), pt(0, 2), r18low), 0, 2, 0}},
-        {"segment_low", 19, {4, 1}, {0, 0, 0, 4, 0, 0.5}},
-        {"segment_high",
-         19,
-         {4, 3},
-         {0, 0, 0, 4, 0, minorBulge(pt(4, 0), pt(2, 3), r19), 2, 3,
-          minorBulge(pt(2, 3), pt(0, 0), r19)}},
-        {"parallelogram_length",
-         21,
-         {4, 3, 30},
-         {0, 0, 0, 4 * c21, 4 * s21, 0, 4 * c21, 4 * s21 + 3, 0, 0, 3, 0}},
-        {"parallelogram_width",
-         21,
-         {-4, 3, 30},
-         {0, 0, 0, 4, 4 * s21 / c21, 0, 4, 4 * s21 / c21 + 3, 0, 0, 3, 0}},
-        {"circle_through_origin", 22, {5}, {0, 0, 1.0, 5, 0, 1.0}},
-        {"circle_by_radius", 22, {-5}, {-5, 0, 1.0, 5, 0, 1.0}},
-        {"diamond_by_side", 28, {2}, {-h21, 0, 0, 0, -h21, 0, h21, 0, 0, 0, h21, 0}},
-        {"diamond_by_diagonal", 28, {-4}, {2, 0, 0, 0, 2, 0, -2, 0, 0, 0, -2, 0}},
-        {"slot_circle", 33, {4, 4}, {2, 2, 1.0, -2, 2, 1.0}},
-        {"slot_upright", 33, {4, 10}, {-2, 2, 1.0, 2, 2, 0, 2, 8, 1.0, -2, 8, 0}},
-        {"slot_lying", 33, {10, 4}, {2, 2, 1.0, 2, -2, 0, 8, -2, 1.0, 8, 2, 0}},
-        {"hexagon",
-         34,
-         {2},
-         {1, 0.5 * r34, 0, 0, r34, 0, -1, 0.5 * r34, 0, -1, -0.5 * r34, 0, 0, -r34, 0, 1,
-          -0.5 * r34, 0}},
-        {"keyhole_slot",
-         801,
-         {2, 10, 4},
-         {1, 0, 1.0, -1, 0, 0, -1, y801, std::tan(300 * ORX::kPi / 180 / 4), 1, y801, 0}},
-        {"keyhole_slot_across",
-         801,
-         {10, 2, 4},
-         {0, -1, 1.0, 0, 1, 0, y801, 1, std::tan(300 * ORX::kPi / 180 / 4), y801, -1, 0}},
-        {"slot_two_half_circles", 801, {2, 10, 1}, {1, 0, 1.0, -1, 0, 0, -1, -8, 1.0, 1, -8, 0}},
-        {"circle_by_diameter", 802, {6}, {3, 0, 1.0, -3, 0, 1.0}},
-        {"circle_by_radius", 802, {-2}, {2, 0, 1.0, -2, 0, 1.0}},
-    };
-    return cases;
-}
+// 18 without a rise: when the rise reaches the half width the arcs stand vertical on the
+// sides (centres on the springing line, radius g_tang_radius(2, 4) for rise 4 over half
+// width 2); below it both arcs lie on one circle through the springing points and the
+// crown (radius 8.5 for rise 1 over half width 4).
+double const r18 = 5.0, r18low = 8.5;
+// 19: both arcs on the circle of radius (d0^2/4 + d1^2) / (2 d1).
+double const r19 = 13.0 / 6;
+double const h21 = std::sqrt(0.5) * 2;
+double const c21 = std::cos(30 * ORX::kPi / 180), s21 = std::sin(30 * ORX::kPi / 180);
+// 801: the head is the circle of diameter max(d2, d0) whose lowest point is d1 below the
+// top of the half-circle end: centre (0, -7); the sides meet it sqrt(3) above that.
+double const y801 = 2 - 10 + 1 + kSqrt3;
+double const r34 = 1 / std::cos(ORX::kPi / 6);
+std::vector<FixedCase> const kFixedCases = {
+    {"rectangle", 1, {2, 3}, {0, 0, 0, 2, 0, 0, 2, 3, 0, 0, 3, 0}},
+    {"trapezoid_cut_right", 2, {4, 3, -1}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 3, 3, 0}},
+    {"trapezoid_cut_left", 2, {4, 3, 1}, {0, 0, 0, 4, 0, 0, 1, 3, 0, 0, 3, 0}},
+    {"trapezoid_as_triangle", 2, {4, 3, 0}, {0, 0, 0, 4, 0, 0, 0, 3, 0}},
+    {"taper_absolute", 3, {-4, 2, -3}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 2, 0}},
+    {"taper_zero_side_normed", 3, {4, 0, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 0}},
+    {"quadrilateral_cut_right", 4, {4, 3, 5, -1}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 3, 5, 0}},
+    {"quadrilateral_left_side", 4, {4, 3, 5, 1}, {0, 0, 0, 4, 0, 0, 1, 5, 0, 0, 3, 0}},
+    {"gable_left_higher", 5, {6, 4, 2, 1}, {0, 0, 0, 6, 0, 0, 6, 2, 0, 1, 4, 0, 0, 4, 0}},
+    {"gable_right_higher", 5, {6, 2, 4, 1}, {0, 0, 0, 6, 0, 0, 6, 4, 0, 5, 4, 0, 0, 2, 0}},
+    {"hexagon_half", 6, {6, 5, 3, 1}, {0, 0, 0, 6, 0, 0, 6, 3, 0, 4, 5, 0, 2, 5, 0, 0, 3, 0}},
+    {"hexagon_whole", 6, {6, 5, 3, -1}, {0, 0, 0, 6, 0, 0, 6, 3, 0, 3.5, 5, 0, 2.5, 5, 0, 0, 3, 0}},
+    {"symmetric_half", 7, {6, 4, 1}, {0, 0, 0, 6, 0, 0, 4, 4, 0, 2, 4, 0}},
+    {"symmetric_whole", 7, {6, 4, -1}, {0, 0, 0, 6, 0, 0, 3.5, 4, 0, 2.5, 4, 0}},
+    {"trapezoid_offset_top", 8, {6, 4, 1, 3}, {0, 0, 0, 6, 0, 0, 4, 4, 0, 1, 4, 0}},
+    {"right_angle_left", 9, {3, 4}, {0, 0, 0, 3, 0, 0, 0, 4, 0}},
+    {"right_angle_right", 9, {-3, 4}, {0, 0, 0, 3, 0, 0, 3, 4, 0}},
+    {"isosceles", 10, {4, 3}, {0, 0, 0, 4, 0, 0, 2, 3, 0}},
+    {"house", 11, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 2, 5, 0, 0, 3, 0}},
+    {"triangle", 12, {4, 3, 1}, {0, 0, 0, 4, 0, 0, 1, 3, 0}},
+    {"segmental_arch", 13, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
+    {"segmental_arch_from_crown", 13, {4, 5, -2}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
+    {"segmental_arch_no_sides", 13, {4, 1, -1}, {0, 0, 0, 4, 0, 0.5}},
+    {"semicircular_arch", 14, {4, 5}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
+    {"half_disc", 14, {4, 2}, {0, 0, 0, 4, 0, 1.0}},
+    {"rounded_top",
+     17,
+     {6, 5, 3},
+     {0, 0, 0, 6, 0, 0, 6, 3, kQuarter, 4, 5, 0, 2, 5, kQuarter, 0, 3, 0}},
+    {"rounded_meet", 17, {4, 5, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 1.0, 0, 3, 0}},
+    {"rounded_none", 17, {6, 3, 3}, {0, 0, 0, 6, 0, 0, 6, 3, 0, 0, 3, 0}},
+    {"pointed_rise",
+     18,
+     {4, 6, 2, 1},
+     {0, 0, 0, 4, 0, 0, 4, 2, 1 / (std::sqrt(20.0) / 2), 2, 6, 1 / (std::sqrt(20.0) / 2), 0, 2, 0}},
+    {"pointed_radius",
+     18,
+     {4, 6, 2},
+     {0, 0, 0, 4, 0, 0, 4, 2, minorBulge(pt(4, 2), pt(2, 6), r18), 2, 6,
+      minorBulge(pt(2, 6), pt(0, 2), r18), 0, 2, 0}},
+    {"pointed_low_rise",
+     18,
+     {8, 3, 2},
+     {0, 0, 0, 8, 0, 0, 8, 2, minorBulge(pt(8, 2), pt(4, 3), r18low), 4, 3,
+      minorBulge(pt(4, 3), pt(0, 2), r18low), 0, 2, 0}},
+    {"segment_low", 19, {4, 1}, {0, 0, 0, 4, 0, 0.5}},
+    {"segment_high",
+     19,
+     {4, 3},
+     {0, 0, 0, 4, 0, minorBulge(pt(4, 0), pt(2, 3), r19), 2, 3,
+      minorBulge(pt(2, 3), pt(0, 0), r19)}},
+    {"parallelogram_length",
+     21,
+     {4, 3, 30},
+     {0, 0, 0, 4 * c21, 4 * s21, 0, 4 * c21, 4 * s21 + 3, 0, 0, 3, 0}},
+    {"parallelogram_width",
+     21,
+     {-4, 3, 30},
+     {0, 0, 0, 4, 4 * s21 / c21, 0, 4, 4 * s21 / c21 + 3, 0, 0, 3, 0}},
+    {"circle_through_origin", 22, {5}, {0, 0, 1.0, 5, 0, 1.0}},
+    {"circle_by_radius", 22, {-5}, {-5, 0, 1.0, 5, 0, 1.0}},
+    {"diamond_by_side", 28, {2}, {-h21, 0, 0, 0, -h21, 0, h21, 0, 0, 0, h21, 0}},
+    {"diamond_by_diagonal", 28, {-4}, {2, 0, 0, 0, 2, 0, -2, 0, 0, 0, -2, 0}},
+    {"slot_circle", 33, {4, 4}, {2, 2, 1.0, -2, 2, 1.0}},
+    {"slot_upright", 33, {4, 10}, {-2, 2, 1.0, 2, 2, 0, 2, 8, 1.0, -2, 8, 0}},
+    {"slot_lying", 33, {10, 4}, {2, 2, 1.0, 2, -2, 0, 8, -2, 1.0, 8, 2, 0}},
+    {"hexagon",
+     34,
+     {2},
+     {1, 0.5 * r34, 0, 0, r34, 0, -1, 0.5 * r34, 0, -1, -0.5 * r34, 0, 0, -r34, 0, 1, -0.5 * r34,
+      0}},
+    {"keyhole_slot",
+     801,
+     {2, 10, 4},
+     {1, 0, 1.0, -1, 0, 0, -1, y801, std::tan(300 * ORX::kPi / 180 / 4), 1, y801, 0}},
+    {"keyhole_slot_across",
+     801,
+     {10, 2, 4},
+     {0, -1, 1.0, 0, 1, 0, y801, 1, std::tan(300 * ORX::kPi / 180 / 4), y801, -1, 0}},
+    {"slot_two_half_circles", 801, {2, 10, 1}, {1, 0, 1.0, -1, 0, 0, -1, -8, 1.0, 1, -8, 0}},
+    {"circle_by_diameter", 802, {6}, {3, 0, 1.0, -3, 0, 1.0}},
+    {"circle_by_radius", 802, {-2}, {2, 0, 1.0, -2, 0, 1.0}},
+};
 
 TEST(OutlineFixedCodesTest, EveryCornerAndBulgeMovedByTheOffset) {
-    for (FixedCase const& c : fixedCases()) {
+    for (FixedCase const& c : kFixedCases) {
         SCOPED_TRACE(c.name);
         COrxVertexArray const vl = ORX::g_outline(c.code, kOffset, orx_test::dims(c.dims));
         EXPECT_TRUE(runsThrough(vl, c.corners, kOffset));
