@@ -61,9 +61,6 @@ TEST(COrxHelixTest, ValidateTurnsTheAxisFromStartToEnd) {
     EXPECT_EQ(down.axisVector(), COrxVector3d(0, 0, -1));
     EXPECT_EQ(down.turnHeight(), 1.5);
     EXPECT_EQ(down.endPoint(), COrxPoint3d(1, 0, -3));
-    COrxHelix const up(1, 2, 1.5, kOrigin, COrxPoint3d(1, 0, 0), COrxVector3d(0, 0, 3), true);
-    EXPECT_EQ(up.axisVector(), COrxVector3d::kZAxis);  // only normalised
-    EXPECT_EQ(up.height(), 3.0);
     // The default helix has no turns: it is its start point.
     EXPECT_EQ(COrxHelix().len(), 0.0);
     EXPECT_EQ(COrxHelix().endPoint(), COrxPoint3d(1, 0, 0));
@@ -88,16 +85,12 @@ TEST(COrxHelixTest, AnglesAndLengthsRunFromStartToEnd) {
     for (NamedHelix const& n : helices()) {
         SCOPED_TRACE(n.name);
         COrxHelix const& h = n.helix;
-        COrxPoint3d p;
-        ASSERT_TRUE(h.pointAtAng(0, p, true));
-        EXPECT_EQ(p, h.startPoint());
-        ASSERT_TRUE(h.pointAtAng(totalAngle(h), p, true));
-        EXPECT_EQ(p, h.endPoint());
         EXPECT_EQ(h.pointAtLen(0, true), h.startPoint());
         EXPECT_EQ(h.pointAtLen(h.len(), true), h.endPoint());
         EXPECT_FALSE(h.pointAtLen(h.len() * 1.01, true).isValid());
         EXPECT_FALSE(h.pointAtLen(-1, true).isValid());
         for (double t : {0.25, 1.0, 3.5, 6.0}) {
+            COrxPoint3d p;
             ASSERT_TRUE(h.pointAtAng(t, p, false));
             EXPECT_EQ(h.pointAtLen(h.len(0, t), false), p) << t;
         }
@@ -169,20 +162,12 @@ TEST(COrxHelixTest, TangentsAreUnitAndAgreeWithFiniteDifferences) {
             h.pointAtAng(t, on, true);
             EXPECT_EQ(h.vectorAtPoint(on), v);
         }
-        EXPECT_EQ(h.startVector(), h.vectorAtAng(0, true));
-        EXPECT_EQ(h.endVector(), h.vectorAtAng(totalAngle(h), true));
         EXPECT_EQ(h.vectorAtAng(totalAngle(h) + 1, true), COrxVector3d::kNull);
     }
 }
 
-TEST(COrxHelixTest, FrameHasItsOriginOnTheAxisAndXTowardsTheStart) {
-    COrxHelix const h(1, 2, 1, COrxPoint3d(1, 2, 3), COrxPoint3d(4, 2, 5), COrxVector3d::kZAxis,
-                      true);
-    COrxMatrix3d expected;
-    expected.setCoordSystem(COrxPoint3d(1, 2, 5), COrxVector3d::kXAxis, COrxVector3d::kYAxis,
-                            COrxVector3d::kZAxis);
-    EXPECT_EQ(h.mtx(), expected);
-    COrxPoint3d origin;  // a start on the axis still gives a right-handed frame
+TEST(COrxHelixTest, StartOnTheAxisStillGivesARightHandedFrame) {
+    COrxPoint3d origin;
     COrxVector3d x, y, z;
     helices()[3].helix.mtx().getCoordSystem(origin, x, y, z);
     EXPECT_NEAR(x.abs(), 1, 1e-12);

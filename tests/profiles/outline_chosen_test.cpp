@@ -1,6 +1,6 @@
 // The codes whose shape this library chose (15, 23, 24, 27, 30, 31, 224, 227, 324, 327, 803,
-// 804, 901): corners as documented in outline.h, the geometry that makes each shape what it
-// is, and the dimensions each refuses.
+// 804, 901): the geometry that makes each shape what it is, and the dimensions each refuses.
+// Their documented corners are in the corner table of outline_codes_test.cpp.
 #include <cmath>
 #include <vector>
 
@@ -14,63 +14,6 @@ namespace {
 
 using orx_test::outline;
 using orx_test::pt;
-using orx_test::runsThrough;
-
-double const kQuarter = std::tan(ORX::kPi / 8);
-
-struct ChosenCase {
-    char const* name;
-    int code;
-    std::vector<double> dims;
-    std::vector<double> corners;  // x, y and bulge of each corner in turn
-};
-
-std::vector<ChosenCase> const kChosenCases = {
-    // A rise of half the span is the half circle.
-    {"basket_arch_half_circle", 15, {8, 7, 3}, {0, 0, 0, 8, 0, 0, 8, 3, 1.0, 0, 3, 0}},
-    {"ring_segment", 23, {10, 6, 90}, {6, 0, 0, 10, 0, kQuarter, 0, 10, 0, 0, 6, -kQuarter}},
-    {"sector", 23, {10, 0, 90}, {0, 0, 0, 10, 0, kQuarter, 0, 10, 0}},
-    {"chamfers", 24, {10, 6, 1}, {1, 0, 0, 9, 0, 0, 10, 1, 0, 10, 5, 0,
-                                  9, 6, 0, 1, 6, 0, 0,  5, 0, 0,  1, 0}},
-    {"chamfer_legs", 24, {10, 6, 2, 1}, {2, 0, 0, 8, 0, 0, 10, 1, 0, 10, 5, 0,
-                                         8, 6, 0, 2, 6, 0, 0,  5, 0, 0,  1, 0}},
-    {"top_chamfers", 224, {10, 6, 1}, {0, 0, 0, 10, 0, 0, 10, 5, 0, 9, 6, 0, 1, 6, 0, 0, 5, 0}},
-    {"corner_chamfer", 324, {10, 6, 2, 1}, {0, 0, 0, 10, 0, 0, 10, 5, 0, 8, 6, 0, 0, 6, 0}},
-    // Legs as long as they may be: the sides between them vanish.
-    {"chamfers_meet", 24, {10, 6, 5, 3}, {5, 0, 0, 10, 3, 0, 5, 6, 0, 0, 3, 0}},
-    {"corner_chamfer_whole", 324, {10, 6, 10, 6}, {0, 0, 0, 10, 0, 0, 0, 6, 0}},
-    {"no_chamfer", 224, {10, 6, 0}, {0, 0, 0, 10, 0, 0, 10, 6, 0, 0, 6, 0}},
-    {"rounds", 27, {10, 6, 1}, {1, 0, 0, 9, 0, kQuarter, 10, 1, 0, 10, 5, kQuarter,
-                                9, 6, 0, 1, 6, kQuarter, 0,  5, 0, 0,  1, kQuarter}},
-    {"top_rounds",
-     227,
-     {10, 6, 2},
-     {0, 0, 0, 10, 0, 0, 10, 4, kQuarter, 8, 6, 0, 2, 6, kQuarter, 0, 4, 0}},
-    {"corner_round", 327, {10, 6, 2}, {0, 0, 0, 10, 0, 0, 10, 4, kQuarter, 8, 6, 0, 0, 6, 0}},
-    // Radius half the width: the upper corners alone make a round top.
-    {"round_top", 227, {6, 5, 3}, {0, 0, 0, 6, 0, 0, 6, 2, 1.0, 0, 2, 0}},
-    {"notch", 31, {10, 6, 4, 2}, {0, 0, 0, 10, 0, 0, 10, 4, 0, 6, 4, 0, 6, 6, 0, 0, 6, 0}},
-    {"no_notch", 31, {10, 6, 0, 2}, {0, 0, 0, 10, 0, 0, 10, 6, 0, 0, 6, 0}},
-    {"slot_along_x", 803, {10, 4}, {-3, -2, 0, 3, -2, 1.0, 3, 2, 0, -3, 2, 1.0}},
-    {"slot_along_y", 803, {4, 10}, {2, -3, 0, 2, 3, 1.0, -2, 3, 0, -2, -3, 1.0}},
-    {"slot_circle", 803, {4, 4.000001}, {2, 0, 1.0, -2, 0, 1.0}},
-    {"oval_circle", 804, {6, 6}, {3, 0, 1.0, -3, 0, 1.0}},
-    {"coordinates", 901, {0, 0, 4, 0, 4, 3, 0, 3}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 3, 0}},
-    // Clockwise input is turned round from its first corner.
-    {"coordinates_clockwise", 901, {0, 0, 0, 3, 4, 3, 4, 0}, {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 3, 0}},
-    // Repeated corners, and a closing corner, are dropped.
-    {"coordinates_repeated",
-     901,
-     {0, 0, 4, 0, 4, 0, 4, 3, 0, 3, 0, 0},
-     {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 3, 0}},
-};
-
-TEST(OutlineChosenTest, CornersAndBulgesAsDocumented) {
-    for (ChosenCase const& c : kChosenCases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_TRUE(runsThrough(outline(c.code, c.dims), c.corners));
-    }
-}
 
 // Where segment `to` starts, it continues segment `from` without a kink.
 ::testing::AssertionResult tangentJoint(COrxVertex const& from, COrxVertex const& to) {
