@@ -216,7 +216,7 @@ bool readPng(std::string const& path, PngImage& image, std::string& error) {
     }
     try {
         Bytes compressed;
-        std::size_t channels = 0;
+        bool header = false;
         for (std::size_t at = 8; at + 12 <= data.size();) {
             std::size_t const length = bigEndian(data, at), body = at + 8;
             std::string const type(data.begin() + at + 4, data.begin() + body);
@@ -226,24 +226,24 @@ bool readPng(std::string const& path, PngImage& image, std::string& error) {
             if (type == "IHDR") {
                 image.width = static_cast<int>(bigEndian(data, body));
                 image.height = static_cast<int>(bigEndian(data, body + 4));
-                int const depth = data[body + 8], colour = data[body + 9];
-                if (depth != 8 || (colour != 6 && colour != 2) || data[body + 12] != 0) {
-                    throw std::runtime_error("only 8-bit RGB(A) without interlace is read");
+                // Bit depth 8, colour type 6 (RGBA), no interlace.
+                if (data[body + 8] != 8 || data[body + 9] != 6 || data[body + 12] != 0) {
+                    throw std::runtime_error("only 8-bit RGBA without interlace is read");
                 }
-                channels = colour == 6 ? 4 : 3;
+                header = true;
             } else if (type == "IDAT") {
                 compressed.insert(compressed.end(), data.begin() + body,
                                   data.begin() + body + length);
             }
             at = body + length + 4;  // the CRC is not checked
         }
-        if (channels == 0) {
+        if (!header) {
             throw std::runtime_error("no image header");
         }
-        Bytes const pixels = unfilter(inflateZlib(compressed), image.width, image.height, channels);
+        Bytes const pixels = unfilter(inflateZlib(compressed), image.width, image.height, 4);
         image.alphas.clear();
-        for (std::size_t i = 0; i < pixels.size(); i += channels) {
-            image.alphas.push_back(channels == 4 ? pixels[i + 3] : 255);
+        for (std::size_t i = 3; i < pixels.size(); i += 4) {
+            image.alphas.push_back(pixels[i]);
         }
     } catch (std::exception const& e) {
         error = path + ": " + e.what();

@@ -1,5 +1,5 @@
-// A small PNG reader for the picture tests: 8-bit RGB or RGBA, not interlaced (what the
-// SVG renderer writes), with its own inflate so the tests need no image library.
+// A small PNG reader for the picture tests: 8-bit RGBA, not interlaced (what the SVG
+// renderer writes), with its own inflate so the tests need no image library.
 #ifndef ORX_TESTS_TOOL_PNG_IMAGE_H
 #define ORX_TESTS_TOOL_PNG_IMAGE_H
 
@@ -10,7 +10,7 @@
 struct PngImage {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> alphas;  // one per pixel, rows top to bottom (255 without alpha)
+    std::vector<std::uint8_t> alphas;  // one per pixel, rows top to bottom
 
     int alpha(int x, int y) const { return alphas[std::size_t(y) * std::size_t(width) + x]; }
 };
