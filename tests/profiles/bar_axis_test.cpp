@@ -20,39 +20,27 @@ COrxBarAxis zBar(double r0, double r1, double angle, double h, int turns, int or
                        COrxVector3d::kZAxis, turns, orientation, twist);
 }
 
-TEST(COrxBarAxisTest, DefaultBarWindsButHasNoRadius) {
-    COrxBarAxis const bar;
-    EXPECT_EQ(bar.orientation(), 1);
-    EXPECT_EQ(bar.startPoint(), bar.endPoint());
-    EXPECT_EQ(bar.baseRadius(), 0.0);
-    EXPECT_EQ(bar.len(), 0.0);
-}
-
-TEST(COrxBarAxisTest, StraightBarHasNoHelix) {
+TEST(COrxBarAxisTest, StraightBarHasNoHelixButRunsAlongTheSegment) {
     COrxBarAxis const bar(COrxPoint3d(1, 2, 3), COrxPoint3d(4, 6, 3), kOrigin, COrxVector3d::kZAxis,
                           3, 0, 0.0);
     EXPECT_EQ(bar.baseRadius(), -1.0);
-    EXPECT_EQ(bar.topRadius(), -1.0);
     EXPECT_EQ(bar.height(), -1.0);
     EXPECT_EQ(bar.turnsExact(), -1.0);
     COrxHelix h(1, 1, 1, kOrigin, COrxPoint3d(1, 0, 0), COrxVector3d::kZAxis, true);
     COrxHelix const before = h;
     EXPECT_FALSE(bar.toHelix(h));
     EXPECT_EQ(h, before);
-    // Lengths and points run along the segment; angles do not exist.
     EXPECT_EQ(bar.len(), 5.0);
     EXPECT_EQ(bar.pointAtLen(2.5, true), COrxPoint3d(2.5, 4, 3));
     EXPECT_FALSE(bar.pointAtLen(6, true).isValid());
-    EXPECT_EQ(bar.startVector(), COrxVector3d(0.6, 0.8, 0));
     EXPECT_EQ(bar.vectorAtPoint(COrxPoint3d(2.5, 4, 3)), COrxVector3d(0.6, 0.8, 0));
-    EXPECT_TRUE(bar.isPoint(COrxPoint3d(4, 6, 3)));
     EXPECT_FALSE(bar.isPoint(COrxPoint3d(7, 10, 3)));
     COrxPoint3d p;
     double t = 0;
     EXPECT_FALSE(bar.pointAtAng(1, p, false));
     EXPECT_FALSE(bar.angAtPoint(COrxPoint3d(1, 2, 3), t, false));
     EXPECT_TRUE(std::isnan(bar.len(0, 1)));
-    COrxPoint3d origin;
+    COrxPoint3d origin;  // at the start, z towards the end
     COrxVector3d x, y, z;
     bar.mtx().getCoordSystem(origin, x, y, z);
     EXPECT_EQ(origin, COrxPoint3d(1, 2, 3));
@@ -75,11 +63,6 @@ TEST(COrxBarAxisTest, TurnsExactCountsThePartOfATurnInTheWindingSense) {
         EXPECT_NEAR(zBar(1, 1, c.angle, 2, 3, c.orientation).turnsExact(), 3 + c.part, 1e-12)
             << c.angle << " " << c.orientation;
     }
-    COrxBarAxis const cone = zBar(2, 3, ORX::kHalfPi, 4, 1, 1);
-    EXPECT_EQ(cone.baseRadius(), 2.0);
-    EXPECT_EQ(cone.topRadius(), 3.0);
-    EXPECT_EQ(cone.height(), 4.0);
-    EXPECT_NEAR(cone.turnHeight(), 4 / 1.25, 1e-14);
 }
 
 // The side of the end is read from the sum of the components of (end radial x start
@@ -97,13 +80,13 @@ TEST(COrxBarAxisTest, ValidatePointsTheAxisFromStartToEnd) {
     COrxBarAxis bar(COrxPoint3d(1, 0, 0), COrxPoint3d(0, 1, 3), kOrigin, COrxVector3d(0, 0, -2), 0,
                     1, 0.0);
     EXPECT_EQ(bar.axisVector(), COrxVector3d(0, 0, 1));
-    bar.setOrientation(0).setAxisVector(COrxVector3d(0, 0, -2));     // setters only store
+    bar.setOrientation(0).setAxisVector(COrxVector3d(0, 0, -2));
     EXPECT_EQ(bar.validate().axisVector(), COrxVector3d(0, 0, -2));  // straight: left alone
-    EXPECT_EQ(bar.setOrientation(1).validate().axisVector(), COrxVector3d(0, 0, 1));
 }
 
 TEST(COrxBarAxisTest, ToHelixGivesTheSameCurve) {
     COrxBarAxis const bar = zBar(2, 3, ORX::kHalfPi, 4, 2, 1);
+    EXPECT_EQ(bar.baseRadius(), 2.0);
     COrxHelix h;
     ASSERT_TRUE(bar.toHelix(h));
     EXPECT_EQ(h.topRadius(), 3.0);
@@ -111,14 +94,10 @@ TEST(COrxBarAxisTest, ToHelixGivesTheSameCurve) {
     EXPECT_NEAR(h.turnHeight(), 4 / 2.25, 1e-14);
     EXPECT_EQ(h.startPoint(), bar.startPoint());
     EXPECT_EQ(h.endPoint(), bar.endPoint());
-    EXPECT_TRUE(h.orientation());
     EXPECT_EQ(bar.len(), h.len());
-    EXPECT_EQ(bar.pointAtLen(bar.len(), true), bar.endPoint());
     double t = 0;
     ASSERT_TRUE(bar.angAtPoint(bar.endPoint(), t, true));
     EXPECT_NEAR(t, 2.25 * ORX::kTwoPi, 1e-9);
-    EXPECT_EQ(bar.endVector(), h.endVector());
-    EXPECT_TRUE(bar.isPoint(bar.endPoint()));
     EXPECT_EQ(bar.mtx(), h.mtx());
     // Clockwise bars convert to clockwise helices.
     COrxBarAxis const cw = zBar(2, 2, ORX::kHalfPi, 4, 0, -1);
@@ -143,7 +122,6 @@ TEST(COrxBarAxisTest, FromHelixRoundTrip) {
             COrxBarAxis bar;
             bar.setTwist(0.25).fromHelix(h);
             EXPECT_NEAR(bar.turnsExact(), turns, 1e-9) << turns << " " << ccw;
-            EXPECT_EQ(bar.Twist(), 0.25);
             COrxHelix back;
             EXPECT_FALSE(bar.toHelix(back));  // the kept twist
             EXPECT_EQ(back, h) << turns << " " << ccw;
@@ -158,16 +136,12 @@ TEST(COrxBarAxisTest, TransformByMovesAndMirrors) {
     COrxBarAxis const moved = bar.getTransformedCopy(move);
     EXPECT_EQ(moved.startPoint(), COrxPoint3d(7, 6, 7));
     EXPECT_EQ(moved.axisPoint(), COrxPoint3d(5, 6, 7));
-    EXPECT_EQ(moved.len(), bar.len());
-    EXPECT_NE(moved, bar);
     COrxMatrix3d mirror;
     mirror.m[0][0] = -1;  // x -> -x
     COrxBarAxis const mirrored = bar.getTransformedCopy(mirror);
     EXPECT_EQ(mirrored.orientation(), -1);
     EXPECT_EQ(mirrored.Twist(), -0.3);
     EXPECT_NEAR(mirrored.turnsExact(), bar.turnsExact(), 1e-12);
-    EXPECT_NEAR(mirrored.len(), bar.len(), 1e-12);
-    EXPECT_EQ(bar.getTransformedCopy(COrxMatrix3d::kIdentity), bar);
 }
 
 }  // namespace

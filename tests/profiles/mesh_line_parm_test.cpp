@@ -12,7 +12,6 @@
 namespace {
 
 using orx_test::pt;
-using Faces = COrxArrayTempl<COrxArrayTempl<short>>;
 
 COrxPoint3dArray corners(std::initializer_list<COrxPoint3d> list) {
     COrxPoint3dArray pts;
@@ -22,11 +21,15 @@ COrxPoint3dArray corners(std::initializer_list<COrxPoint3d> list) {
     return pts;
 }
 
-int pointCount(COrxMesh const& mesh) {
-    Faces faces;
+// What getData gives: the faces as indexes into the shared points.
+struct MeshData {
+    COrxArrayTempl<COrxArrayTempl<short>> faces;
     COrxPoint3dArray points;
-    mesh.getData(faces, points);
-    return points.len();
+    explicit MeshData(COrxMesh const& mesh) { mesh.getData(faces, points); }
+};
+
+int pointCount(COrxMesh const& mesh) {
+    return MeshData(mesh).points.len();
 }
 
 TEST(COrxMeshTest, FacesShareTheirPoints) {
@@ -34,12 +37,10 @@ TEST(COrxMeshTest, FacesShareTheirPoints) {
     ASSERT_TRUE(mesh.addFace(corners({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)})));
     // The neighbour repeats two corners, one of them only within the point tolerance.
     ASSERT_TRUE(mesh.addFace(corners({pt(1, 0), pt(2, 0), pt(2, 1), pt(1, 1 + 1e-7)})));
-    Faces faces;
-    COrxPoint3dArray points;
-    mesh.getData(faces, points);
-    ASSERT_EQ(points.len(), 6);
-    ASSERT_EQ(faces.len(), 2u);
-    EXPECT_EQ(faces[1], COrxArrayTempl<short>().append(1).append(4).append(5).append(2));
+    MeshData const data(mesh);
+    ASSERT_EQ(data.points.len(), 6);
+    ASSERT_EQ(data.faces.len(), 2u);
+    EXPECT_EQ(data.faces[1], COrxArrayTempl<short>().append(1).append(4).append(5).append(2));
     // A face comes back as the closed polygon through its corners.
     COrxVertexArray const face = mesh[1];
     EXPECT_TRUE(face.isClosed());
@@ -56,12 +57,10 @@ TEST(COrxMeshTest, AddFaceRules) {
     // face shares its point.
     ASSERT_TRUE(mesh.addFace(corners({pt(0, 0), pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 0)})));
     ASSERT_TRUE(mesh.addFace(corners({pt(5, 0), pt(6, 0), pt(5, 1), pt(6, 1), pt(6, 0)})));
-    Faces faces;
-    COrxPoint3dArray points;
-    mesh.getData(faces, points);
-    EXPECT_EQ(faces[0].len(), 3u);
-    EXPECT_EQ(faces[1].len(), 5u);
-    EXPECT_EQ(points.len(), 7);
+    MeshData const data(mesh);
+    EXPECT_EQ(data.faces[0].len(), 3u);
+    EXPECT_EQ(data.faces[1].len(), 5u);
+    EXPECT_EQ(data.points.len(), 7);
     // Refused, changing nothing: too few distinct corners, corners that are not numbers.
     double const nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_FALSE(mesh.addFace(corners({pt(0, 0), pt(1, 0), pt(0, 0)})));

@@ -1,10 +1,9 @@
-// Measures on outlines shared by the profile tests: closedness, area, extents and the test
-// that no two segments meet except at the joint they share.
+// Helpers shared by the profile tests: building outlines from plain lists, checking them
+// corner by corner, and the test that no two segments meet except at the joint they share.
 #ifndef ORX_TESTS_PROFILES_OUTLINE_CHECKS_H
 #define ORX_TESTS_PROFILES_OUTLINE_CHECKS_H
 
 #include <cmath>
-#include <initializer_list>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -31,37 +30,27 @@ inline COrxVertexArray outline(int code, std::vector<double> const& values,
     return ORX::g_outline(code, offset, dims(values));
 }
 
-// The points where segments a and b meet, plus every end of one that lies on the other
-// (collinear overlaps, which the line crossing does not report).
-inline COrxPoint3dArray meetingPoints(COrxVertex const& a, COrxVertex const& b) {
-    COrxPoint3dArray pts = a.intersectWith(b, 0);
-    for (COrxPoint3d const& p : {b.startPoint(), b.endPoint()}) {
-        if (a.isPoint(p)) {
-            pts.append(p);
-        }
-    }
-    for (COrxPoint3d const& p : {a.startPoint(), a.endPoint()}) {
-        if (b.isPoint(p)) {
-            pts.append(p);
-        }
-    }
-    return pts;
-}
-
 // True when two segments meet anywhere but at a joint they share (consecutive segments,
-// cyclically, share the end of the first).
+// cyclically, share the end of the first). Besides the crossings, an end of one segment on
+// the other counts: collinear overlaps, which the crossing does not report.
 inline bool selfIntersects(COrxVertexArray const& vl) {
     int const n = vl.len();
     for (int i = 0; i < n; ++i) {
         for (int j = i + 1; j < n; ++j) {
-            COrxPoint3dArray joints;
+            COrxPoint3dArray joints, pts = vl[i].intersectWith(vl[j], 0);
+            for (int m : {i, j}) {
+                for (COrxPoint3d const& p : {vl[m].startPoint(), vl[m].endPoint()}) {
+                    if (vl[m == i ? j : i].isPoint(p)) {
+                        pts.append(p);
+                    }
+                }
+            }
             if (j == i + 1) {
                 joints.append(vl[i].endPoint());
             }
             if ((j + 1) % n == i) {
                 joints.append(vl[j].endPoint());
             }
-            COrxPoint3dArray const pts = meetingPoints(vl[i], vl[j]);
             for (int k = 0; k < pts.len(); ++k) {
                 if (joints.indexOf(pts[k]) < 0) {
                     return true;
@@ -85,22 +74,14 @@ inline ::testing::AssertionResult runsThrough(COrxVertexArray const& vl,
     auto corner = [&](int k) { return COrxPoint3d(xyb[3 * k], xyb[3 * k + 1], 0) + offset; };
     for (int k = 0; k < n; ++k) {
         COrxVertex const& v = vl[k];
-        COrxPoint3d const start = corner(k), end = corner((k + 1) % n);
-        double const bulge = xyb[3 * k + 2];
-        if (v.startPoint() != start || v.endPoint() != end ||
-            !(std::fabs(v.bulge() - bulge) <= 1e-12)) {
+        if (v.startPoint() != corner(k) || v.endPoint() != corner((k + 1) % n) ||
+            !(std::fabs(v.bulge() - xyb[3 * k + 2]) <= 1e-12)) {
             return ::testing::AssertionFailure()
                    << "segment " << k << " starts at (" << v.startPoint().x << ", "
-                   << v.startPoint().y << ") with bulge " << v.bulge() << ", expected (" << start.x
-                   << ", " << start.y << ") with " << bulge;
+                   << v.startPoint().y << ") with bulge " << v.bulge();
         }
     }
     return ::testing::AssertionSuccess();
-}
-
-// Closed, with a positive (counter-clockwise) area.
-inline bool closedPositive(COrxVertexArray const& vl) {
-    return vl.isClosed() && ORX::g_vl_area(vl) > 0;
 }
 
 }  // namespace orx_test

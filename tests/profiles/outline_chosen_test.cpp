@@ -1,6 +1,6 @@
 // The codes whose shape this library chose (15, 23, 24, 27, 30, 31, 224, 227, 324, 327, 803,
-// 804, 901): corners as documented in outline.h, the geometry that makes each shape what it
-// is, and the dimensions each refuses.
+// 804, 901): the geometry that makes each shape what it is, and the dimensions each refuses.
+// Their documented corners are in the corner table of outline_codes_test.cpp.
 #include <cmath>
 #include <vector>
 
@@ -14,9 +14,6 @@ namespace {
 
 using orx_test::outline;
 using orx_test::pt;
-using orx_test::runsThrough;
-
-double const kQuarter = std::tan(ORX::kPi / 8);
 
 // Where segment `to` starts, it continues segment `from` without a kink.
 ::testing::AssertionResult tangentJoint(COrxVertex const& from, COrxVertex const& to) {
@@ -29,17 +26,9 @@ double const kQuarter = std::tan(ORX::kPi / 8);
            << "kink at (" << joint.x << ", " << joint.y << "): " << a << " then " << b;
 }
 
-void expectExtents(COrxVertexArray const& vl, COrxPoint3d const& lo, COrxPoint3d const& hi) {
-    COrxPoint3d min, max;
-    ASSERT_TRUE(vl.extents(min, max));
-    EXPECT_EQ(min, lo);
-    EXPECT_EQ(max, hi);
-}
-
 TEST(OutlineChosenTest, BasketArchIsThreeTangentArcsOnTheKorbRadius) {
     COrxVertexArray const vl = outline(15, {8, 5, 3});  // span 8, rise 2 on sides of 3
     ASSERT_EQ(vl.len(), 6);
-    EXPECT_EQ(vl[0].startPoint(), pt(0, 0));
     EXPECT_EQ(vl[2].startPoint(), pt(8, 3));
     EXPECT_EQ(vl[5].startPoint(), pt(0, 3));
     double const crownRadius = ORX::g_korb_3m(4, 2);
@@ -48,90 +37,40 @@ TEST(OutlineChosenTest, BasketArchIsThreeTangentArcsOnTheKorbRadius) {
     EXPECT_NEAR(vl[2].radius(), vl[4].radius(), 1e-12);
     EXPECT_LT(vl[2].radius(), crownRadius);
     // Tangent everywhere: vertical at the springing, horizontal at the crown.
-    for (int k = 1; k < 6; ++k) {
-        if (!vl[k - 1].isStraight() || !vl[k].isStraight()) {
-            EXPECT_TRUE(tangentJoint(vl[k - 1], vl[k])) << k;
-        }
+    for (int k = 2; k < 6; ++k) {
+        EXPECT_TRUE(tangentJoint(vl[k - 1], vl[k])) << k;
     }
-    expectExtents(vl, pt(0, 0), pt(8, 5));
-}
-
-TEST(OutlineChosenTest, BasketArchLimits) {
-    // A rise of half the span is the half circle; without sides the arch stands on its chord.
-    EXPECT_TRUE(runsThrough(outline(15, {8, 7, 3}), {0, 0, 0, 8, 0, 0, 8, 3, 1.0, 0, 3, 0}));
+    // Without sides the arch stands on its chord.
     COrxVertexArray const low = outline(15, {8, 2, 0});
     ASSERT_EQ(low.len(), 4);
-    EXPECT_TRUE(low[0].isStraight());
     EXPECT_EQ(low[1].startPoint(), pt(8, 0));
-    expectExtents(low, pt(0, 0), pt(8, 2));
 }
 
-TEST(OutlineChosenTest, RingSegmentAndSector) {
-    EXPECT_TRUE(runsThrough(outline(23, {10, 6, 90}),
-                            {6, 0, 0, 10, 0, kQuarter, 0, 10, 0, 0, 6, -kQuarter}));
-    EXPECT_TRUE(runsThrough(outline(23, {10, 0, 90}), {0, 0, 0, 10, 0, kQuarter, 0, 10, 0}));
-    COrxVertexArray const wide = outline(23, {10, 0, 270});
-    EXPECT_NEAR(ORX::g_vl_area(wide), ORX::kPi * 100 * 0.75, 1e-9);
-    expectExtents(wide, pt(-10, -10), pt(10, 10));
-}
-
-TEST(OutlineChosenTest, ChamferedCorners) {
-    EXPECT_TRUE(runsThrough(outline(24, {10, 6, 1}), {1, 0, 0, 9, 0, 0, 10, 1, 0, 10, 5, 0,
-                                                      9, 6, 0, 1, 6, 0, 0,  5, 0, 0,  1, 0}));
-    EXPECT_NEAR(ORX::g_vl_area(outline(24, {10, 6, 2, 1})), 60 - 4 * 1.0, 1e-12);
-    EXPECT_TRUE(runsThrough(outline(224, {10, 6, 1}),
-                            {0, 0, 0, 10, 0, 0, 10, 5, 0, 9, 6, 0, 1, 6, 0, 0, 5, 0}));
-    EXPECT_TRUE(
-        runsThrough(outline(324, {10, 6, 2, 1}), {0, 0, 0, 10, 0, 0, 10, 5, 0, 8, 6, 0, 0, 6, 0}));
-    // Legs as long as they may be: the sides between them vanish.
-    EXPECT_TRUE(runsThrough(outline(24, {10, 6, 5, 3}), {5, 0, 0, 10, 3, 0, 5, 6, 0, 0, 3, 0}));
-    EXPECT_TRUE(runsThrough(outline(324, {10, 6, 10, 6}), {0, 0, 0, 10, 0, 0, 0, 6, 0}));
-    // No chamfer: the rectangle.
-    EXPECT_EQ(outline(224, {10, 6, 0}).len(), 4);
-}
-
-TEST(OutlineChosenTest, RoundedCorners) {
-    EXPECT_TRUE(
-        runsThrough(outline(27, {10, 6, 1}), {1, 0, 0, 9, 0, kQuarter, 10, 1, 0, 10, 5, kQuarter,
-                                              9, 6, 0, 1, 6, kQuarter, 0,  5, 0, 0,  1, kQuarter}));
-    EXPECT_TRUE(runsThrough(outline(227, {10, 6, 2}), {0, 0, 0, 10, 0, 0, 10, 4, kQuarter, 8, 6, 0,
-                                                       2, 6, kQuarter, 0, 4, 0}));
-    EXPECT_TRUE(runsThrough(outline(327, {10, 6, 2}),
-                            {0, 0, 0, 10, 0, 0, 10, 4, kQuarter, 8, 6, 0, 0, 6, 0}));
-    // Radius half the width and height: the circle; the upper corners alone: a round top.
+// A sector wider than a half turn, and corners rounded to half the width and height (the
+// circle).
+TEST(OutlineChosenTest, WideSectorAndRoundedSquareAreWholeArcs) {
+    COrxPoint3d lo, hi;
+    COrxVertexArray const sector = outline(23, {10, 0, 270});
+    EXPECT_NEAR(ORX::g_vl_area(sector), ORX::kPi * 75, 1e-9);
+    ASSERT_TRUE(sector.extents(lo, hi));
+    EXPECT_EQ(lo, pt(-10, -10));
+    EXPECT_EQ(hi, pt(10, 10));
     COrxVertexArray const circle = outline(27, {6, 6, 3});
     EXPECT_NEAR(ORX::g_vl_area(circle), 9 * ORX::kPi, 1e-9);
-    expectExtents(circle, pt(0, 0), pt(6, 6));
-    EXPECT_TRUE(runsThrough(outline(227, {6, 5, 3}), {0, 0, 0, 6, 0, 0, 6, 2, 1.0, 0, 2, 0}));
+    ASSERT_TRUE(circle.extents(lo, hi));
+    EXPECT_EQ(lo, pt(0, 0));
+    EXPECT_EQ(hi, pt(6, 6));
 }
 
 TEST(OutlineChosenTest, RegularPolygonStandsOnASide) {
     COrxVertexArray const hexagon = outline(30, {6, 2});
     ASSERT_EQ(hexagon.len(), 6);
-    double const h = std::sqrt(3.0) / 2;
-    EXPECT_EQ(hexagon[0].startPoint(), pt(-0.5, -h));
-    EXPECT_EQ(hexagon[1].startPoint(), pt(0.5, -h));
+    EXPECT_EQ(hexagon[0].startPoint(), pt(-0.5, -std::sqrt(3.0) / 2));
+    EXPECT_EQ(hexagon[1].startPoint(), pt(0.5, -std::sqrt(3.0) / 2));
     COrxVertexArray const triangle = outline(30, {3, 2});
     ASSERT_EQ(triangle.len(), 3);
     EXPECT_EQ(triangle[2].startPoint(), pt(0, 1));
-    for (int n = 3; n <= 40; ++n) {
-        COrxVertexArray const p = outline(30, {double(n), 2});
-        ASSERT_EQ(p.len(), n);
-        EXPECT_NEAR(ORX::g_vl_area(p), n / 2.0 * std::sin(ORX::kTwoPi / n), 1e-12) << n;
-    }
     EXPECT_EQ(outline(30, {1000, 2}).len(), 1000);
-}
-
-TEST(OutlineChosenTest, NotchedRectangle) {
-    EXPECT_TRUE(runsThrough(outline(31, {10, 6, 4, 2}),
-                            {0, 0, 0, 10, 0, 0, 10, 4, 0, 6, 4, 0, 6, 6, 0, 0, 6, 0}));
-    EXPECT_TRUE(runsThrough(outline(31, {10, 6, 0, 2}), {0, 0, 0, 10, 0, 0, 10, 6, 0, 0, 6, 0}));
-}
-
-TEST(OutlineChosenTest, CentredSlotAndCircle) {
-    EXPECT_TRUE(runsThrough(outline(803, {10, 4}), {-3, -2, 0, 3, -2, 1.0, 3, 2, 0, -3, 2, 1.0}));
-    EXPECT_TRUE(runsThrough(outline(803, {4, 10}), {2, -3, 0, 2, 3, 1.0, -2, 3, 0, -2, -3, 1.0}));
-    EXPECT_TRUE(runsThrough(outline(803, {4, 4.000001}), {2, 0, 1.0, -2, 0, 1.0}));
 }
 
 TEST(OutlineChosenTest, OvalIsTangentArcsInsideItsBox) {
@@ -143,23 +82,9 @@ TEST(OutlineChosenTest, OvalIsTangentArcsInsideItsBox) {
         EXPECT_FALSE(vl[k].isStraight());
         EXPECT_TRUE(tangentJoint(vl[k], vl[(k + 1) % 6])) << k;
     }
-    expectExtents(vl, pt(-5, -3), pt(5, 3));
     // Close to the ellipse of the same axes.
     EXPECT_NEAR(ORX::g_vl_area(vl), ORX::kPi * 5 * 3, 0.02 * ORX::kPi * 5 * 3);
-    COrxVertexArray const upright = outline(804, {6, 10});
-    EXPECT_EQ(upright[0].startPoint(), pt(0, 5));
-    expectExtents(upright, pt(-3, -5), pt(3, 5));
-    EXPECT_TRUE(runsThrough(outline(804, {6, 6}), {3, 0, 1.0, -3, 0, 1.0}));
-}
-
-TEST(OutlineChosenTest, PolygonFromCoordinates) {
-    std::vector<double> const rectangle = {0, 0, 0, 4, 0, 0, 4, 3, 0, 0, 3, 0};
-    EXPECT_TRUE(runsThrough(outline(901, {0, 0, 4, 0, 4, 3, 0, 3}), rectangle));
-    // Clockwise input is turned round from its first corner.
-    EXPECT_TRUE(runsThrough(outline(901, {0, 0, 0, 3, 4, 3, 4, 0}), rectangle));
-    // Repeated corners, and a closing corner, are dropped.
-    EXPECT_TRUE(runsThrough(outline(901, {0, 0, 4, 0, 4, 0, 4, 3, 0, 3, 0, 0}), rectangle));
-    EXPECT_EQ(outline(901, {0, 0, 4, 0, 2, 1, 4, 3, 0, 3}).len(), 5);  // concave is fine
+    EXPECT_EQ(outline(804, {6, 10})[0].startPoint(), pt(0, 5));
 }
 
 // Dimensions each chosen code refuses (documented as invalid in outline.h).
@@ -172,10 +97,8 @@ TEST(OutlineChosenTest, InvalidDimensionsGiveTheEmptyOutline) {
     std::vector<Refused> const cases = {
         {"arch_without_rise", 15, {8, 3, 3}},
         {"arch_above_half_circle", 15, {8, 8, 3}},
-        {"arch_without_span", 15, {0, 5, 3}},
         {"arch_below_ground", 15, {8, 5, -1}},
         {"ring_inner_is_outer", 23, {10, 10, 90}},
-        {"ring_inner_outside", 23, {10, 12, 90}},
         {"ring_inner_negative", 23, {10, -1, 90}},
         {"ring_no_radius", 23, {0, 0, 90}},
         {"ring_no_angle", 23, {10, 6, 0}},
@@ -184,7 +107,6 @@ TEST(OutlineChosenTest, InvalidDimensionsGiveTheEmptyOutline) {
         {"chamfers_overlap_along_x", 24, {10, 6, 5.5, 0}},
         {"chamfers_overlap_along_y", 24, {10, 6, 1, 3.5}},
         {"chamfer_without_width", 24, {0, 6, 1, 1}},
-        {"chamfer_negative_height", 24, {10, -6, 1, 1}},
         {"chamfer_negative_leg", 24, {10, 6, -1, 1}},
         {"top_chamfer_past_height", 224, {10, 6, 1, 6.5}},
         {"top_chamfers_overlap", 224, {10, 6, 5.5, 1}},
@@ -199,9 +121,7 @@ TEST(OutlineChosenTest, InvalidDimensionsGiveTheEmptyOutline) {
         {"polygon_no_diameter", 30, {6, 0}},
         {"notch_whole_width", 31, {10, 6, 10, 2}},
         {"notch_whole_height", 31, {10, 6, 4, 6}},
-        {"notch_negative", 31, {10, 6, -1, 2}},
         {"slot_no_length", 803, {0, 4}},
-        {"slot_negative_width", 803, {4, -4}},
         {"oval_no_height", 804, {6, 0}},
         {"coordinates_odd_count", 901, {0, 0, 4, 0, 4, 3, 1}},
         {"coordinates_two_corners", 901, {0, 0, 4, 0, 4, 0}},
@@ -215,6 +135,7 @@ TEST(OutlineChosenTest, InvalidDimensionsGiveTheEmptyOutline) {
     for (Refused const& r : cases) {
         EXPECT_TRUE(outline(r.code, r.dims).isEmpty()) << r.name;
     }
+    EXPECT_EQ(outline(901, {0, 0, 4, 0, 2, 1, 4, 3, 0, 3}).len(), 5);  // concave is fine
 }
 
 }  // namespace

@@ -11,60 +11,40 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Reads a deflate stream bit by bit, least significant bit first.
-class BitReader {
-public:
-    explicit BitReader(Bytes const& data, std::size_t start) : m_data(data), m_pos(start) {}
+// A deflate stream read bit by bit, least significant bit first.
+struct BitReader {
+    Bytes const& data;
+    std::size_t bit;  // the position, in bits from the start of `data`
 
     unsigned bits(int n) {
         unsigned value = 0;
-        for (int i = 0; i < n; ++i) {
-            if (m_pos >= m_data.size()) {
+        for (int i = 0; i < n; ++i, ++bit) {
+            if (bit / 8 >= data.size()) {
                 throw std::runtime_error("compressed data ends early");
             }
-            value |= ((m_data[m_pos] >> m_bit) & 1u) << i;
-            if (++m_bit == 8) {
-                m_bit = 0;
-                ++m_pos;
-            }
+            value |= ((data[bit / 8] >> bit % 8) & 1u) << i;
         }
         return value;
     }
-
-    void alignToByte() {
-        if (m_bit != 0) {
-            m_bit = 0;
-            ++m_pos;
-        }
-    }
-
-    std::uint8_t byte() { return static_cast<std::uint8_t>(bits(8)); }
-
-private:
-    Bytes const& m_data;
-    std::size_t m_pos;
-    int m_bit = 0;
 };
 
 // A canonical Huffman code given by its code lengths, decoded one bit at a time.
-class Huffman {
-public:
-    explicit Huffman(std::vector<int> const& lengths) {
+struct Huffman {
+    std::array<int, 16> count{};  // codes of each length
+    std::vector<int> symbols;     // in code order
+
+    explicit Huffman(std::vector<int> const& lengths) : symbols(lengths.size()) {
         for (int len : lengths) {
-            ++m_count[static_cast<std::size_t>(len)];
+            ++count[len];
         }
-        m_count[0] = 0;
+        count[0] = 0;
         std::array<int, 17> offset{};
         for (int len = 1; len < 16; ++len) {
-            offset[static_cast<std::size_t>(len + 1)] =
-                offset[static_cast<std::size_t>(len)] + m_count[static_cast<std::size_t>(len)];
+            offset[len + 1] = offset[len] + count[len];
         }
-        m_symbols.resize(lengths.size());
         for (std::size_t symbol = 0; symbol < lengths.size(); ++symbol) {
             if (lengths[symbol] != 0) {
-                m_symbols[static_cast<std::size_t>(
-                    offset[static_cast<std::size_t>(lengths[symbol])]++)] =
-                    static_cast<int>(symbol);
+                symbols[offset[lengths[symbol]]++] = static_cast<int>(symbol);
             }
         }
     }
@@ -73,20 +53,15 @@ public:
         int code = 0, first = 0, index = 0;
         for (int len = 1; len < 16; ++len) {
             code |= static_cast<int>(in.bits(1));
-            int count = m_count[static_cast<std::size_t>(len)];
-            if (code - first < count) {
-                return m_symbols[static_cast<std::size_t>(index + code - first)];
+            if (code - first < count[len]) {
+                return symbols[index + code - first];
             }
-            index += count;
-            first = (first + count) << 1;
+            index += count[len];
+            first = (first + count[len]) << 1;
             code <<= 1;
         }
         throw std::runtime_error("bad Huffman code");
     }
-
-private:
-    std::array<int, 16> m_count{};
-    std::vector<int> m_symbols;
 };
 
 constexpr int kLengthBase[] = {3,  4,  5,  6,  7,  8,  9,  10, 11,  13,  15,  17,  19,  23, 27,
@@ -100,159 +75,130 @@ constexpr int kDistanceExtra[] = {0, 0, 0, 0, 1, 1, 2, 2,  3,  3,  4,  4,  5,  5
                                   6, 7, 7, 8, 8, 9, 9, 10, 10, 11, 11, 12, 12, 13, 13};
 
 void inflateBlock(BitReader& in, Bytes& out, Huffman const& literals, Huffman const& distances) {
-    while (true) {
-        int symbol = literals.decode(in);
+    for (int symbol = literals.decode(in); symbol != 256; symbol = literals.decode(in)) {
         if (symbol < 256) {
             out.push_back(static_cast<std::uint8_t>(symbol));
-        } else if (symbol == 256) {
-            return;
-        } else {
-            symbol -= 257;
-            if (symbol >= 29) {
-                throw std::runtime_error("bad length code");
-            }
-            int length = kLengthBase[symbol] + static_cast<int>(in.bits(kLengthExtra[symbol]));
-            int d = distances.decode(in);
-            if (d >= 30) {
-                throw std::runtime_error("bad distance code");
-            }
-            std::size_t distance =
-                static_cast<std::size_t>(kDistanceBase[d]) + in.bits(kDistanceExtra[d]);
-            if (distance > out.size()) {
-                throw std::runtime_error("distance too far back");
-            }
-            for (int i = 0; i < length; ++i) {
-                out.push_back(out[out.size() - distance]);
-            }
+            continue;
+        }
+        symbol -= 257;
+        if (symbol >= 29) {
+            throw std::runtime_error("bad length code");
+        }
+        unsigned const length = kLengthBase[symbol] + in.bits(kLengthExtra[symbol]);
+        int const d = distances.decode(in);
+        if (d >= 30) {
+            throw std::runtime_error("bad distance code");
+        }
+        std::size_t const distance = kDistanceBase[d] + in.bits(kDistanceExtra[d]);
+        if (distance > out.size()) {
+            throw std::runtime_error("distance too far back");
+        }
+        for (unsigned i = 0; i < length; ++i) {
+            out.push_back(out[out.size() - distance]);
         }
     }
 }
 
-void dynamicTables(BitReader& in, std::vector<int>& literalLengths,
-                   std::vector<int>& distanceLengths) {
+// The code lengths of a block with its own Huffman codes: literals first, then distances.
+std::vector<int> dynamicLengths(BitReader& in, int& literalCount) {
     static constexpr int kOrder[19] = {16, 17, 18, 0, 8,  7, 9,  6, 10, 5,
                                        11, 4,  12, 3, 13, 2, 14, 1, 15};
-    int literalCount = static_cast<int>(in.bits(5)) + 257;
-    int distanceCount = static_cast<int>(in.bits(5)) + 1;
-    int codeLengthCount = static_cast<int>(in.bits(4)) + 4;
+    literalCount = static_cast<int>(in.bits(5)) + 257;
+    std::size_t const total = literalCount + in.bits(5) + 1;
+    int const codeLengthCount = static_cast<int>(in.bits(4)) + 4;
     std::vector<int> codeLengthLengths(19, 0);
     for (int i = 0; i < codeLengthCount; ++i) {
-        codeLengthLengths[static_cast<std::size_t>(kOrder[i])] = static_cast<int>(in.bits(3));
+        codeLengthLengths[kOrder[i]] = static_cast<int>(in.bits(3));
     }
-    Huffman codeLengths(codeLengthLengths);
+    Huffman const codeLengths(codeLengthLengths);
     std::vector<int> lengths;
-    while (static_cast<int>(lengths.size()) < literalCount + distanceCount) {
-        int symbol = codeLengths.decode(in);
+    while (lengths.size() < total) {
+        int const symbol = codeLengths.decode(in);
         if (symbol < 16) {
             lengths.push_back(symbol);
-            continue;
-        }
-        int repeat = 0, value = 0;
-        if (symbol == 16) {
+        } else if (symbol == 16) {
             if (lengths.empty()) {
                 throw std::runtime_error("repeat with no previous length");
             }
-            value = lengths.back();
-            repeat = 3 + static_cast<int>(in.bits(2));
-        } else if (symbol == 17) {
-            repeat = 3 + static_cast<int>(in.bits(3));
+            int const previous = lengths.back();
+            lengths.insert(lengths.end(), 3 + in.bits(2), previous);
         } else {
-            repeat = 11 + static_cast<int>(in.bits(7));
+            lengths.insert(lengths.end(), symbol == 17 ? 3 + in.bits(3) : 11 + in.bits(7), 0);
         }
-        lengths.insert(lengths.end(), static_cast<std::size_t>(repeat), value);
     }
-    literalLengths.assign(lengths.begin(), lengths.begin() + literalCount);
-    distanceLengths.assign(lengths.begin() + literalCount, lengths.end());
+    return lengths;
 }
 
 Bytes inflateZlib(Bytes const& data) {
     if (data.size() < 2 || (data[0] & 0x0f) != 8) {
         throw std::runtime_error("not a deflate stream");
     }
-    BitReader in(data, 2);
+    BitReader in{data, 16};
     Bytes out;
-    bool last = false;
-    while (!last) {
+    for (bool last = false; !last;) {
         last = in.bits(1) != 0;
-        unsigned type = in.bits(2);
+        unsigned const type = in.bits(2);
         if (type == 0) {
-            in.alignToByte();
-            unsigned length = in.bits(16);
+            in.bit = (in.bit + 7) / 8 * 8;
+            unsigned const length = in.bits(16);
             in.bits(16);  // the one's complement of the length
             for (unsigned i = 0; i < length; ++i) {
-                out.push_back(in.byte());
+                out.push_back(static_cast<std::uint8_t>(in.bits(8)));
             }
-        } else if (type == 1) {
-            std::vector<int> literalLengths(288, 8), distanceLengths(30, 5);
-            std::fill(literalLengths.begin() + 144, literalLengths.begin() + 256, 9);
-            std::fill(literalLengths.begin() + 256, literalLengths.begin() + 280, 7);
-            inflateBlock(in, out, Huffman(literalLengths), Huffman(distanceLengths));
+            continue;
+        }
+        std::vector<int> lengths(288, 8);  // type 1: the fixed codes
+        int literalCount = 288;
+        if (type == 1) {
+            std::fill(lengths.begin() + 144, lengths.begin() + 256, 9);
+            std::fill(lengths.begin() + 256, lengths.begin() + 280, 7);
+            lengths.insert(lengths.end(), 30, 5);
         } else if (type == 2) {
-            std::vector<int> literalLengths, distanceLengths;
-            dynamicTables(in, literalLengths, distanceLengths);
-            inflateBlock(in, out, Huffman(literalLengths), Huffman(distanceLengths));
+            lengths = dynamicLengths(in, literalCount);
         } else {
             throw std::runtime_error("bad block type");
         }
+        inflateBlock(in, out, Huffman({lengths.begin(), lengths.begin() + literalCount}),
+                     Huffman({lengths.begin() + literalCount, lengths.end()}));
     }
     return out;
 }
 
-std::uint32_t bigEndian(Bytes const& b, std::size_t at) {
-    return (std::uint32_t{b[at]} << 24) | (std::uint32_t{b[at + 1]} << 16) |
-           (std::uint32_t{b[at + 2]} << 8) | std::uint32_t{b[at + 3]};
+std::size_t bigEndian(Bytes const& b, std::size_t at) {
+    return std::size_t{b[at]} << 24 | std::size_t{b[at + 1]} << 16 | std::size_t{b[at + 2]} << 8 |
+           b[at + 3];
 }
 
 int paeth(int a, int b, int c) {
-    int p = a + b - c;
-    int pa = std::abs(p - a), pb = std::abs(p - b), pc = std::abs(p - c);
+    int const p = a + b - c;
+    int const pa = std::abs(p - a), pb = std::abs(p - b), pc = std::abs(p - c);
     if (pa <= pb && pa <= pc) {
         return a;
     }
     return pb <= pc ? b : c;
 }
 
-// Undoes the per-row filters in place; rows are 1 filter byte + width * channels bytes.
-Bytes unfilter(Bytes const& raw, int width, int height, int channels) {
-    std::size_t stride = static_cast<std::size_t>(width) * static_cast<std::size_t>(channels);
-    if (raw.size() < (stride + 1) * static_cast<std::size_t>(height)) {
+// Undoes the per-row filters; rows are 1 filter byte + width * channels bytes.
+Bytes unfilter(Bytes const& raw, std::size_t width, std::size_t height, std::size_t channels) {
+    std::size_t const stride = width * channels;
+    if (raw.size() < (stride + 1) * height) {
         throw std::runtime_error("image data too short");
     }
-    Bytes pixels(stride * static_cast<std::size_t>(height));
-    for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
-        int filter = raw[y * (stride + 1)];
+    Bytes pixels(stride * height);
+    for (std::size_t y = 0; y < height; ++y) {
+        int const filter = raw[y * (stride + 1)];
         std::uint8_t const* in = &raw[y * (stride + 1) + 1];
         std::uint8_t* row = &pixels[y * stride];
         std::uint8_t const* up = y > 0 ? row - stride : nullptr;
         for (std::size_t i = 0; i < stride; ++i) {
-            int a = i >= static_cast<std::size_t>(channels)
-                        ? row[i - static_cast<std::size_t>(channels)]
-                        : 0;
-            int b = up ? up[i] : 0;
-            int c = up && i >= static_cast<std::size_t>(channels)
-                        ? up[i - static_cast<std::size_t>(channels)]
-                        : 0;
-            int predicted = 0;
-            switch (filter) {
-                case 0:
-                    predicted = 0;
-                    break;
-                case 1:
-                    predicted = a;
-                    break;
-                case 2:
-                    predicted = b;
-                    break;
-                case 3:
-                    predicted = (a + b) / 2;
-                    break;
-                case 4:
-                    predicted = paeth(a, b, c);
-                    break;
-                default:
-                    throw std::runtime_error("bad row filter");
+            int const a = i >= channels ? row[i - channels] : 0;
+            int const b = up ? up[i] : 0;
+            int const c = up && i >= channels ? up[i - channels] : 0;
+            int const predicted[] = {0, a, b, (a + b) / 2, paeth(a, b, c)};
+            if (filter > 4) {
+                throw std::runtime_error("bad row filter");
             }
-            row[i] = static_cast<std::uint8_t>(in[i] + predicted);
+            row[i] = static_cast<std::uint8_t>(in[i] + predicted[filter]);
         }
     }
     return pixels;
@@ -270,39 +216,34 @@ bool readPng(std::string const& path, PngImage& image, std::string& error) {
     }
     try {
         Bytes compressed;
-        int channels = 0;
+        bool header = false;
         for (std::size_t at = 8; at + 12 <= data.size();) {
-            std::size_t length = bigEndian(data, at);
-            std::string type(data.begin() + static_cast<std::ptrdiff_t>(at + 4),
-                             data.begin() + static_cast<std::ptrdiff_t>(at + 8));
-            std::size_t body = at + 8;
+            std::size_t const length = bigEndian(data, at), body = at + 8;
+            std::string const type(data.begin() + at + 4, data.begin() + body);
             if (body + length > data.size()) {
                 throw std::runtime_error("chunk runs past the end");
             }
             if (type == "IHDR") {
                 image.width = static_cast<int>(bigEndian(data, body));
                 image.height = static_cast<int>(bigEndian(data, body + 4));
-                int depth = data[body + 8], colour = data[body + 9], interlace = data[body + 12];
-                if (depth != 8 || (colour != 6 && colour != 2) || interlace != 0) {
-                    throw std::runtime_error("only 8-bit RGB(A) without interlace is read");
+                // Bit depth 8, colour type 6 (RGBA), no interlace.
+                if (data[body + 8] != 8 || data[body + 9] != 6 || data[body + 12] != 0) {
+                    throw std::runtime_error("only 8-bit RGBA without interlace is read");
                 }
-                channels = colour == 6 ? 4 : 3;
+                header = true;
             } else if (type == "IDAT") {
-                compressed.insert(compressed.end(),
-                                  data.begin() + static_cast<std::ptrdiff_t>(body),
-                                  data.begin() + static_cast<std::ptrdiff_t>(body + length));
+                compressed.insert(compressed.end(), data.begin() + body,
+                                  data.begin() + body + length);
             }
             at = body + length + 4;  // the CRC is not checked
         }
-        if (channels == 0) {
+        if (!header) {
             throw std::runtime_error("no image header");
         }
-        Bytes pixels = unfilter(inflateZlib(compressed), image.width, image.height, channels);
-        image.rgba.clear();
-        for (std::size_t i = 0; i < pixels.size(); i += static_cast<std::size_t>(channels)) {
-            image.rgba.insert(image.rgba.end(), pixels.begin() + static_cast<std::ptrdiff_t>(i),
-                              pixels.begin() + static_cast<std::ptrdiff_t>(i) + 3);
-            image.rgba.push_back(channels == 4 ? pixels[i + 3] : 255);
+        Bytes const pixels = unfilter(inflateZlib(compressed), image.width, image.height, 4);
+        image.alphas.clear();
+        for (std::size_t i = 3; i < pixels.size(); i += 4) {
+            image.alphas.push_back(pixels[i]);
         }
     } catch (std::exception const& e) {
         error = path + ": " + e.what();

@@ -1,5 +1,5 @@
-// A small PNG reader for the picture tests: 8-bit RGB or RGBA, not interlaced (what the
-// SVG renderer writes), with its own inflate so the tests need no image library.
+// A small PNG reader for the picture tests: 8-bit RGBA, not interlaced (what the SVG
+// renderer writes), with its own inflate so the tests need no image library.
 #ifndef ORX_TESTS_TOOL_PNG_IMAGE_H
 #define ORX_TESTS_TOOL_PNG_IMAGE_H
 
@@ -10,14 +10,9 @@
 struct PngImage {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> rgba;  // 4 bytes per pixel, rows top to bottom
+    std::vector<std::uint8_t> alphas;  // one per pixel, rows top to bottom
 
-    std::uint8_t alpha(int x, int y) const {
-        return rgba[(static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                     static_cast<std::size_t>(x)) *
-                        4 +
-                    3];
-    }
+    int alpha(int x, int y) const { return alphas[std::size_t(y) * std::size_t(width) + x]; }
 };
 
 // False (with `error` set) for a file that is missing, damaged or of another PNG kind.

@@ -18,11 +18,6 @@ std::string quoted(std::string const& word) {
     return out + "'";
 }
 
-std::string slurp(std::string const& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
-
 }  // namespace
 
 Scratch::Scratch() {
@@ -47,7 +42,8 @@ std::string Scratch::write(std::string const& name, std::string const& text) con
 }
 
 std::string Scratch::read(std::string const& name) const {
-    return slurp(path(name));
+    std::ifstream in(path(name), std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
 }
 
 bool Scratch::exists(std::string const& name) const {
