@@ -32,12 +32,14 @@ TEST(LinesTest, IntersectionOfTwoLines) {
     // A vertical second line, bounded and not.
     P const p1(0, 0, 0), p2(1, 0, 0), p3(2, -1, 0), p4(2, 1, 0);
     EXPECT_FALSE(ORX::inters(p1, p2, p3, p4, true, out));
-    EXPECT_TRUE(ORX::inters(p1, p2, p3, p4, false, out) && out == P(2, 0, 0));
+    ASSERT_TRUE(ORX::inters(p1, p2, p3, p4, false, out));
+    EXPECT_EQ(out, P(2, 0, 0));
     // A vertical first line exchanges roles: z comes from the other line's start.
     ASSERT_TRUE(ORX::inters(P(2, -1, 7), P(2, 3, 7), P(0, 0, 3), P(4, 4, 3), false, out));
     EXPECT_EQ(out, P(2, 2, 3));
     // Crossing segments meet inside both; a touching end counts.
-    EXPECT_TRUE(ORX::inters(O, P(4, 2, 0), P(0, 2, 0), P(4, 0, 0), true, out) && out == P(2, 1, 0));
+    ASSERT_TRUE(ORX::inters(O, P(4, 2, 0), P(0, 2, 0), P(4, 0, 0), true, out));
+    EXPECT_EQ(out, P(2, 1, 0));
     EXPECT_TRUE(ORX::inters(O, P(4, 0, 0), P(4, 0, 0), P(5, 3, 0), true, out));
     EXPECT_FALSE(ORX::inters(O, P(4, 0, 0), P(5, -1, 0), P(5, 3, 0), true, out));
     out.set(9, 9, 9);  // overflowing slopes give no point

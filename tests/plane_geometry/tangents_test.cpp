@@ -36,7 +36,8 @@ TEST(TangentsTest, CirclesTouchingTwoCircles) {
     EXPECT_FALSE(ORX::g_tang2_cen(pts, O, 2, P(8, 0, 0), 2, 0));
     P centre(9, 9, 9);
     double r = 9;
-    EXPECT_TRUE(ORX::g_tang3_cen(centre, r, O, P(4, 0, 0), P(0, 3, 0)) && centre == P(1, 1, 0));
+    ASSERT_TRUE(ORX::g_tang3_cen(centre, r, O, P(4, 0, 0), P(0, 3, 0)));
+    EXPECT_EQ(centre, P(1, 1, 0));
     EXPECT_DOUBLE_EQ(r, 1.0);
     EXPECT_FALSE(ORX::g_tang3_cen(centre, r, O, P(1, 0, 0), P(2, 0, 0)));
     EXPECT_EQ(r, 1.0);

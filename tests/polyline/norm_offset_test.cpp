@@ -83,7 +83,8 @@ TEST(OffsetTest, RoundedSquareOutwardsAndInwards) {
     ASSERT_EQ(deep.len(), 4);
     EXPECT_NEAR(deep.geomLength(), 4 * (side - 6), 1e-9);
     COrxPoint3d lo, hi;
-    EXPECT_TRUE(deep.extents(lo, hi) && lo == pt(3, 3));
+    ASSERT_TRUE(deep.extents(lo, hi));
+    EXPECT_EQ(lo, pt(3, 3));
     EXPECT_EQ(hi, pt(7, 7));
 }
 

@@ -73,13 +73,15 @@ TEST(COrxVertexArrayTest, JoinTriesItsRulesInOrder) {
     COrxVertexArray const cb = polygon({pt(2, 0), pt(1, 0)}, false);
     COrxVertexArray const abc = polygon({pt(0, 0), pt(1, 0), pt(2, 0)}, false);
     COrxVertexArray joined = ab;
-    EXPECT_TRUE(joined.join(polygon({pt(1, 0), pt(2, 0)}, false), false) && joined == abc);
+    ASSERT_TRUE(joined.join(polygon({pt(1, 0), pt(2, 0)}, false), false));
+    EXPECT_EQ(joined, abc);
     joined = ab;
     ASSERT_TRUE(joined.join(polygon({pt(-1, 0), pt(0, 0)}, false), false));
     EXPECT_EQ(joined, polygon({pt(-1, 0), pt(0, 0), pt(1, 0)}, false));
     joined = ab;
     EXPECT_FALSE(joined.join(cb, false));  // meets only when reversed
-    EXPECT_TRUE(joined.join(cb, true) && joined == abc);
+    ASSERT_TRUE(joined.join(cb, true));
+    EXPECT_EQ(joined, abc);
 
     COrxVertexArray empty;
     ASSERT_TRUE(empty.join(unitSquare(), false));
@@ -87,7 +89,8 @@ TEST(COrxVertexArrayTest, JoinTriesItsRulesInOrder) {
     joined = ab;
     EXPECT_FALSE(joined.join(unitSquare(), true));
     EXPECT_FALSE(joined.join(COrxVertexArray(), true));
-    EXPECT_TRUE(joined.join(COrxVertex(pt(2, 0), pt(1, 0), 0.0), true) && joined == abc);
+    ASSERT_TRUE(joined.join(COrxVertex(pt(2, 0), pt(1, 0), 0.0), true));
+    EXPECT_EQ(joined, abc);
 }
 
 TEST(COrxVertexArrayTest, TransformationsCarryTheNormal) {
@@ -109,7 +112,8 @@ TEST(COrxVertexArrayTest, LengthsAndPointsAlongThePolyline) {
     EXPECT_NEAR(d, 2 + ORX::kHalfPi, 1e-12);
     EXPECT_FALSE(vl.distAtPoint(d, pt(1, 1)));
     COrxPoint3d p;
-    EXPECT_TRUE(vl.pointAtDist(p, 2 + ORX::kHalfPi) && p == pt(3, 1));
+    ASSERT_TRUE(vl.pointAtDist(p, 2 + ORX::kHalfPi));
+    EXPECT_EQ(p, pt(3, 1));
     EXPECT_FALSE(vl.pointAtDist(p, 10));
     EXPECT_EQ(vl.vxNear(pt(3.5, 1)).bulge(), 1.0);
     EXPECT_EQ(vl.vxNear(pt(1, -3)).bulge(), 0.0);

@@ -167,7 +167,8 @@ TEST(COrxVertexTest, IntersectionFlagsDropExactlyWhatTheySay) {
     COrxVertex const half(pt(1, 0), pt(-1, 0), 1.0);  // upper half
     COrxPoint3dArray pts;
     COrxVertex const tangent(pt(-2, 1), pt(2, 1), 0.0);
-    EXPECT_TRUE(tangent.intersectWith(pts, half, 0) && pts.len() == 1);
+    ASSERT_TRUE(tangent.intersectWith(pts, half, 0));
+    EXPECT_EQ(pts.len(), 1);
     EXPECT_EQ(pts[0], pt(0, 1));
     EXPECT_FALSE(tangent.intersectWith(pts, half, COrxVertex::kSkipTangent));
 

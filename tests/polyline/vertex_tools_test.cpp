@@ -21,8 +21,10 @@ TEST(VertexToolsTest, BuildingFromTwoPoints) {
     COrxVertex v(pt(0, 0), pt(1, 0), 0.5);
     EXPECT_FALSE(orx_g_vx_vx(pt(2, 2), pt(2, 2), v, true));
     EXPECT_EQ(v.endPoint(), pt(1, 0));
-    EXPECT_TRUE(orx_g_vx_vx(pt(2, 2), pt(3, 3), v, true) && v.bulge() == 0.5);
-    EXPECT_TRUE(orx_g_vx_vx(pt(2, 2), pt(3, 3), v, false) && v.bulge() == 0.0);
+    ASSERT_TRUE(orx_g_vx_vx(pt(2, 2), pt(3, 3), v, true));
+    EXPECT_EQ(v.bulge(), 0.5);
+    ASSERT_TRUE(orx_g_vx_vx(pt(2, 2), pt(3, 3), v, false));
+    EXPECT_EQ(v.bulge(), 0.0);
 }
 
 TEST(VertexToolsTest, TurnAngleAtAJoint) {
