@@ -5,17 +5,14 @@
 #include <cstdint>
 #include <cstring>
 
-TEST(GeomFunctionsTest, AnglesLieInZeroToTwoPiInclusive) {
+TEST(GeomFunctionsTest, AnglesLieInZeroToTwoPiInclusiveAndPolarKeepsTheHeight) {
     EXPECT_EQ(ORX::angle(COrxVector3d(1, -1e-300, 0)), 6.283185307179586);
     EXPECT_EQ(ORX::angle(COrxVector3d(0, 0, 0)), 0.0);
     EXPECT_EQ(ORX::angle(COrxVector3d(0, -1, 0)), 3 * ORX::kHalfPi);
     EXPECT_EQ(ORX::angle(COrxPoint3d(1, 1, 0), COrxPoint3d(1, 3, 5)), ORX::kHalfPi);
     double const ra[3] = {1, 1, 0}, rb[3] = {0, 0, 0};
     EXPECT_DOUBLE_EQ(ORX::angle(ra, rb), 5 * ORX::kPi / 4);
-}
-
-TEST(GeomFunctionsTest, PolarPointsKeepTheHeight) {
-    EXPECT_EQ(ORX::polar(COrxPoint3d(1, 2, 7), ORX::kHalfPi, 3), COrxPoint3d(1, 5, 7));
+    EXPECT_EQ(ORX::polar(COrxPoint3d(1, 2, 7), ORX::kHalfPi, 3), COrxPoint3d(1, 5, 7));  // keeps z
 }
 
 TEST(GeomFunctionsTest, RoundingHalvesAwayUpwards) {

@@ -8,20 +8,10 @@
 #include "orx/geom/plane.h"
 
 namespace {
-
-COrxMatrix3d fromRows(std::initializer_list<std::initializer_list<double>> rows) {
-    COrxMatrix3d m;
-    int r = 0;
-    for (auto const& row : rows) {
-        int c = 0;
-        for (double v : row) {
-            m.m[r][c++] = v;
-        }
-        ++r;
-    }
-    return m;
+// A matrix written out row by row.
+COrxMatrix3d matrix(double const (&rows)[4][4]) {
+    return COrxMatrix3d(rows);
 }
-
 }  // namespace
 
 TEST(COrxMatrix3dTest, EqualityUsesAFixedEntryThreshold) {
@@ -55,10 +45,10 @@ TEST(COrxMatrix3dTest, WorldToPlaneFollowsTheArbitraryAxisRule) {
     COrxMatrix3d m;
     EXPECT_EQ(m.setToWorldToPlane(COrxVector3d(0, 0, 1)), COrxMatrix3d::kIdentity);
     m.setToWorldToPlane(COrxVector3d(0, 0, -1));
-    EXPECT_EQ(m, fromRows({{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, -1, 0}, {0, 0, 0, 1}}));
+    EXPECT_EQ(m, matrix({{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, -1, 0}, {0, 0, 0, 1}}));
     // Beyond the 1/64 limit the world Z axis builds the plane's x axis.
     m.setToWorldToPlane(COrxVector3d(1, 0, 0));
-    EXPECT_EQ(m, fromRows({{0, 1, 0, 0}, {0, 0, 1, 0}, {1, 0, 0, 0}, {0, 0, 0, 1}}));
+    EXPECT_EQ(m, matrix({{0, 1, 0, 0}, {0, 0, 1, 0}, {1, 0, 0, 0}, {0, 0, 0, 1}}));
     EXPECT_EQ(m.setToWorldToPlane(COrxVector3d::kNull), COrxMatrix3d::kIdentity);
     EXPECT_EQ(m.setToWorldToPlane(COrxVector3d(ORX::nan(), 0, 1)), COrxMatrix3d::kIdentity);
     COrxVector3d const n(0.3, -0.5, 0.8);
@@ -68,22 +58,20 @@ TEST(COrxMatrix3dTest, WorldToPlaneFollowsTheArbitraryAxisRule) {
 }
 
 TEST(COrxMatrix3dTest, SingularMatricesInvertToTheIdentity) {
-    COrxMatrix3d zeroRow;
+    COrxMatrix3d zeroRow, flat;
     zeroRow.m[0][0] = 0.0;
     EXPECT_EQ(zeroRow.inverse(), COrxMatrix3d::kIdentity);
-    COrxMatrix3d flat;
-    flat.setToScaling(0.0, COrxPoint3d(1, 1, 1));
-    EXPECT_EQ(flat.invert(), COrxMatrix3d::kIdentity);
+    EXPECT_EQ(flat.setToScaling(0.0, COrxPoint3d(1, 1, 1)).invert(), COrxMatrix3d::kIdentity);
     // Rows 0 and 1 equal: no zero row, the pivot vanishes only during elimination.
-    COrxMatrix3d twin = fromRows({{1, 2, 3, 0}, {1, 2, 3, 0}, {0, 1, 5, 0}, {0, 0, 0, 1}});
+    COrxMatrix3d const twin = matrix({{1, 2, 3, 0}, {1, 2, 3, 0}, {0, 1, 5, 0}, {0, 0, 0, 1}});
     EXPECT_EQ(twin.inverse(), COrxMatrix3d::kIdentity);
 }
 
 TEST(COrxMatrix3dTest, InverseUndoesTheMatrix) {
     // A zero diagonal entry is exchanged before elimination; here a pivot only vanishes
     // during elimination, and the matrix is regular all the same.
-    COrxMatrix3d const swapped = fromRows({{0, 1, 0, 4}, {1, 0, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
-    COrxMatrix3d const late = fromRows({{1, 1, 0, 0}, {1, 1, 1, 0}, {0, 1, 1, 0}, {0, 0, 0, 1}});
+    COrxMatrix3d const swapped = matrix({{0, 1, 0, 4}, {1, 0, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
+    COrxMatrix3d const late = matrix({{1, 1, 0, 0}, {1, 1, 1, 0}, {0, 1, 1, 0}, {0, 0, 0, 1}});
     for (COrxMatrix3d const& m : {swapped, late}) {
         EXPECT_EQ(m.inverse() * m, COrxMatrix3d::kIdentity);
     }

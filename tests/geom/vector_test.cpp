@@ -29,12 +29,10 @@ TEST(COrxVector3dTest, AngleToIsNanForNullVectors) {
     EXPECT_EQ(COrxVector3d(1, 1e-9, 0).angleTo(COrxVector3d(1, 1e-9, 0)), 0.0);
 }
 
-TEST(COrxVector3dTest, OrthogonalityUsesTheRawDotProduct) {
+TEST(COrxVector3dTest, OrthogonalAndParallel) {
+    // Orthogonality uses the raw dot product.
     EXPECT_TRUE(COrxVector3d(1, 0, 0).isOrthoTo(COrxVector3d(1e-10, 1, 0)));
     EXPECT_FALSE(COrxVector3d(1000, 0, 0).isOrthoTo(COrxVector3d(2e-12, 1, 0)));
-}
-
-TEST(COrxVector3dTest, ParallelMeansSameOrOppositeDirection) {
     EXPECT_TRUE(COrxVector3d(1, 1, 0).isParallelTo(COrxVector3d(-5, -5, 0)));
     EXPECT_FALSE(COrxVector3d(1, 1, 0).isParallelTo(COrxVector3d(1, 0, 0)));
     // A zero vector is parallel only to another vector shorter than the tolerance.

