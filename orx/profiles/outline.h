@@ -121,8 +121,10 @@
 //          norm. Invalid as 24 but with c > d0 and e > d1.
 // 27   3   Rectangle d0 x d1 with all four corners rounded to radius r = d2 (quarter
 //          circles, bulge tan(pi/8)). Corners (r,0) (d0-r,0) arc (d0,r) (d0,d1-r) arc
-//          (d0-r,d1) (r,d1) arc (0,d1-r) (0,r) arc back to (r,0); norm. Invalid: d0 <= 0,
-//          d1 <= 0, r < 0, 2r > d0, 2r > d1.
+//          (d0-r,d1) (r,d1) arc (0,d1-r) (0,r) arc back to (r,0); norm, which drops the
+//          zero-length sides and merges arcs of one circle: with 2r = d0 = d1 the result is
+//          the circle as two arcs starting at (r,d1). Invalid: d0 <= 0, d1 <= 0, r < 0,
+//          2r > d0, 2r > d1.
 // 227  3   As 27, the two upper corners only (the radius given directly, unlike code 17):
 //          (0,0) (d0,0) (d0,d1-r) arc (d0-r,d1) (r,d1) arc (0,d1-r); norm. Invalid as 27
 //          but with r > d1 in place of 2r > d1.
