@@ -20,7 +20,7 @@ constexpr int kSamplesPerCase = 24;
 constexpr double kBoundaryMargin = 1e-3;
 
 bool nearBoundary(COrxVertexArray const& vl, COrxPoint3d const& p) {
-    COrxPoint3dTol wide(kBoundaryMargin);
+    COrxPoint3dTol wide(kBoundaryMargin);  // isPoint tests against the widened tolerance
     return vl.isPoint(p);
 }
 
