@@ -4,6 +4,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"
+#include "orx/plane_geometry/internal/arc_frame.h"
 #include "orx/plane_geometry/internal/finite.h"
 #include "orx/plane_geometry/internal/three_points.h"
 #include "orx/plane_geometry/lines.h"
@@ -74,13 +75,15 @@ double g_arcrad_bulg(COrxPoint3d const& p1, COrxPoint3d const& p2, double r) {
 }
 
 COrxPoint3d g_bulg_cen(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
-    COrxPoint3d const mid = g_midp3d(p1, p2);
     if (bulge == 0.0 || p1 == p2) {
-        return mid;
+        return g_midp3d(p1, p2);
     }
-    double const d = p1.distanceTo(p2);
-    COrxVector3d const left = (COrxVector3d::kZAxis * (p2 - p1)).normalize();
-    COrxPoint3d const centre = mid + left * (d / 4 * (1 / bulge + bulge) - bulge * d / 2);
+    // From the chord midpoint along the chord's left normal, (1 - b^2) / 2b half chords.
+    internal::ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid()) {
+        return internal::nanPoint();
+    }
+    COrxPoint3d const centre = frame.toWorld({0.0, frame.centreY()});
     return centre.isValid() ? centre : internal::nanPoint();
 }
 
@@ -101,13 +104,11 @@ double g_bulg_len(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
     if (bulge == 0.0) {
         return chord;
     }
-    double const theta = std::fabs(4 * std::atan(bulge));
-    double length = chord / (2 * std::sin(theta / 2)) * theta;
-    if (!std::isfinite(length)) {
-        // A subnormal bulge: the quotient overflows although the ratio is 1.
-        length = chord * (theta / (2 * std::sin(theta / 2)));
-    }
-    return internal::finiteOrNan(length);
+    // chord / (2 sin(theta/2)) * theta = chord (1 + b^2) atan|b| / |b|, written so that
+    // neither a tiny nor a huge bulge overflows on the way.
+    double const b = std::fabs(bulge);
+    double const factor = b < 1.0 ? (1 + b * b) * (std::atan(b) / b) : std::atan(b) * (b + 1 / b);
+    return internal::finiteOrNan(chord * factor);
 }
 
 double g_bulg_len(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p3) {
@@ -194,16 +195,16 @@ bool g_arc_pt(COrxPoint3d const& c, double r, double a0, double a1, COrxPoint3d 
         return false;
     }
     double const tol = COrxPoint3d::tol;
-    if (std::fabs(g_dist2d(c, p) - r) > tol) {
-        return false;
+    if (r <= tol) {
+        return std::fabs(g_dist2d(c, p) - r) <= tol;  // the arc is within the tolerance of c
     }
-    if (r <= tol || g_dist2d(p, polar(c, a0, r)) <= tol || g_dist2d(p, polar(c, a1, r)) <= tol) {
-        return true;
+    // Within the angular range the distance to the circle, outside it the distance to the
+    // nearer end: the same measure as for a straight segment, so that a point just before
+    // an arc's end is not on it.
+    if (ccwFrom(a0, angle(c, p)) <= ccwSweep(a0, a1)) {
+        return std::fabs(g_dist2d(c, p) - r) <= tol;
     }
-    // The point tolerance along the arc, as an angle at this radius.
-    double const slack = tol / r;
-    double const position = ccwFrom(a0, angle(c, p));
-    return position <= ccwSweep(a0, a1) + slack || position >= kTwoPi - slack;
+    return g_dist2d(p, polar(c, a0, r)) <= tol || g_dist2d(p, polar(c, a1, r)) <= tol;
 }
 
 }  // namespace ORX

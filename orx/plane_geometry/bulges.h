@@ -28,8 +28,9 @@ ORX_API bool g_arcrad_bulg(double& bulge, COrxPoint3d const& p1, COrxPoint3d con
 ORX_API double g_arcrad_bulg(COrxPoint3d const& p1, COrxPoint3d const& p2, double r);
 
 // Centre of the segment (p1, p2, bulge): with d the chord length and u the unit vector
-// Z x (p2 - p1) (left of the chord), chord midpoint + u * (d/4 * (1/bulge + bulge) -
-// bulge * d/2). A straight segment, or one whose ends coincide, gives the chord midpoint.
+// Z x (p2 - p1) (left of the chord), chord midpoint + u * d/4 * (1/bulge - bulge). A straight
+// segment, or one whose ends coincide, gives the chord midpoint; a bulge so small that the
+// centre overflows gives a NaN point (the arc is its chord).
 ORX_API COrxPoint3d g_bulg_cen(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge);
 // The point halfway along the segment: chord midpoint - (Z x (p2 - p1)) * (bulge / 2) (the
 // sagitta bulge * d / 2 to the right of the chord for a positive bulge); the chord midpoint
@@ -38,7 +39,8 @@ ORX_API COrxPoint3d g_bulg_mid(COrxPoint3d const& p1, COrxPoint3d const& p2, dou
 // The point halfway along the counter-clockwise arc about c from angle a0 to a1.
 ORX_API COrxPoint3d g_arc_mid(COrxPoint3d const& c, double r, double a0, double a1);
 // Length of the segment: the chord when straight, else chord / (2 sin(theta/2)) * theta with
-// theta = |4 atan(bulge)|.
+// theta = |4 atan(bulge)|, evaluated as chord (1 + b^2) atan|b| / |b| so that it tends to the
+// chord for a vanishing bulge (1 for the chord 1 and the bulge 1e-310).
 ORX_API double g_bulg_len(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge);
 // Length of the arc from p1 through p2 to p3; for collinear points the distance p1-p3 when
 // p2 lies between them, else NaN.
@@ -74,13 +76,13 @@ ORX_API bool g_arc3p_tan(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint
                          COrxPoint3d& apex);
 
 // True when p lies on the counter-clockwise arc about c of radius r from angle a0 to a1, in
-// the XY plane: its distance from c differs from r by at most COrxPoint3d::tol, and it lies
-// within the angular range widened at both ends by COrxPoint3d::tol / r, or within
-// COrxPoint3d::tol of an end point. The range may cross the 0/2pi direction (a1 below a0 is
-// the arc through angle 0). a1 - a0 counts modulo whole turns: equal angles make a
-// point-sized arc, a1 = a0 + 2pi the full circle. A radius within COrxPoint3d::tol of 0
-// accepts every point within the tolerance of c. False for a negative radius and for NaN or
-// infinite input.
+// the XY plane: its distance to the arc is at most COrxPoint3d::tol. Within the angular range
+// that is the distance to the circle; outside it the distance to the nearer end point, so a
+// point just beyond an end is on the arc only when it is that close to the end (as for a
+// straight segment). The range may cross the 0/2pi direction (a1 below a0 is the arc through
+// angle 0). a1 - a0 counts modulo whole turns: equal angles make a point-sized arc, a1 = a0 +
+// 2pi the full circle. A radius within COrxPoint3d::tol of 0 accepts every point within the
+// tolerance of the circle. False for a negative radius and for NaN or infinite input.
 ORX_API bool g_arc_pt(COrxPoint3d const& c, double r, double a0, double a1, COrxPoint3d const& p);
 
 }  // namespace ORX

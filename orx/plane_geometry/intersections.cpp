@@ -56,7 +56,8 @@ void circleCircle(COrxPoint3dArray& pts, COrxPoint3d const& c1, double r1, COrxP
     }
 }
 
-// The line-circle roots: the line v = m u + b in the parameter u (x, or y for steep lines).
+// The line-circle roots: the line v = m u + b in the parameter u (x, or y for steep lines),
+// solved relative to the centre so that the quadratic does not cancel at site coordinates.
 void lineCircle(COrxPoint3dArray& pts, COrxPoint3d const& c, double r, COrxPoint3d const& p1,
                 COrxPoint3d const& p2) {
     double const t = COrxPoint3d::tol;
@@ -66,12 +67,13 @@ void lineCircle(COrxPoint3dArray& pts, COrxPoint3d const& c, double r, COrxPoint
     if (du == 0.0) {
         return;  // p1 and p2 coincide in the plan: no line
     }
-    double const cu = byX ? c.x : c.y, cv = byX ? c.y : c.x;
     double const m = dv / du;
-    double const b = (byX ? p2.y : p2.x) - m * (byX ? p2.x : p2.y);
+    double const u2 = byX ? p2.x - c.x : p2.y - c.y;
+    double const v2 = byX ? p2.y - c.y : p2.x - c.x;
+    double const b = v2 - m * u2;
     double const A = m * m + 1;
-    double const P = 2 * ((b - cv) * m - cu) / A;
-    double const Q = (cu * cu + b * b + cv * cv - 2 * b * cv - r * r) / A;
+    double const P = 2 * b * m / A;
+    double const Q = (b - r) * (b + r) / A;
     double D = P * P / 4 - Q;
     if (D >= 0.0 && std::sqrt(D) < t / 2) {
         D = 0.0;
@@ -89,7 +91,7 @@ void lineCircle(COrxPoint3dArray& pts, COrxPoint3d const& c, double r, COrxPoint
     double const s = std::sqrt(D);
     auto add = [&](double u) {
         double const v = m * u + b;
-        pts.append(byX ? COrxPoint3d(u, v, c.z) : COrxPoint3d(v, u, c.z));
+        pts.append(byX ? COrxPoint3d(c.x + u, c.y + v, c.z) : COrxPoint3d(c.x + v, c.y + u, c.z));
     };
     add(-P / 2 - s);
     if (s > 0.0) {

@@ -53,6 +53,25 @@ ORX_API bool g_ali(COrxPoint3dArray& pts, COrxPoint3d const& c, double r, double
 // Always true, also when no point is kept, deliberately: callers test the list.
 ORX_API bool g_cai(COrxPoint3dArray& pts, COrxPoint3d const& c1, double r1, COrxPoint3d const& c2,
                    double r2, double b0, double b1);
+// Where two bulge segments (s1, e1, b1) and (s2, e2, b2) meet; pts is emptied first.
+// Computed in the frame of the chords, so that the points do not depend on where the
+// segments lie and a nearly straight arc meets as precisely as its chord:
+// - two straight segments: inters(s1, e1, s2, e2, !extended);
+// - an arc and a straight segment: the circle against the line as in g_cli0 (roots within
+//   t/2 of each other are one point, a line that misses by less than t touches), the points
+//   in the order of g_cli0's parameter along the line;
+// - two arcs: against each other as in g_cci (a gap or an overlap below t is one touching
+//   point, points within kTouchArcLength are one), the point left of the line from the more
+//   curved circle's centre to the other's first. Two arcs of one circle (each arc's ends and
+//   midpoint within t of the other's circle) meet only in their common end points, listed as
+//   g_aai lists them.
+// Without extended only the points within t of both segments are kept (g_bulg_pt_dist);
+// with it, the infinite lines and full circles count. The points take the z of the first
+// arc's chord midpoint (of s1 for two straight segments). True when pts is not empty.
+ORX_API bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const& e1,
+                        double b1, COrxPoint3d const& s2, COrxPoint3d const& e2, double b2,
+                        bool extended);
+
 // Arc - arc; pts emptied. Different centres (point equality): the points of g_cci on both
 // arcs, in order. Equal centres (concentric arcs): the common end points only, never an
 // overlap range: those of arc 1's ends polar(c1, a0, r1), polar(c1, a1, r1) that equal an end

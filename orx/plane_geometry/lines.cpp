@@ -87,20 +87,22 @@ bool inters(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p3,
     COrxPoint3d const& b = *first[1];
     COrxPoint3d const& c = *second[0];
     COrxPoint3d const& d = *second[1];
+    // The slopes decide the vertical and parallel cases; the point itself is computed from
+    // the first line's start, so that it does not depend on where the lines lie.
     double const m1 = (b.y - a.y) / (b.x - a.x);
-    double const b1 = a.y - m1 * a.x;
     double const dx2 = d.x - c.x;
-    double x;
+    double along = 0.0;  // of the point on the first line, as a share of b - a
     if (std::fabs(dx2) < kVerticalDx) {
-        x = d.x;
+        along = (d.x - a.x) / (b.x - a.x);
     } else {
         double const m2 = (d.y - c.y) / dx2;
         if (std::fabs(m1 - m2) < kParallelSlope) {
             return false;
         }
-        x = (c.y - m2 * c.x - b1) / (m1 - m2);
+        double const ex = b.x - a.x, ey = b.y - a.y, fx = d.x - c.x, fy = d.y - c.y;
+        along = ((c.x - a.x) * fy - (c.y - a.y) * fx) / (ex * fy - ey * fx);
     }
-    COrxPoint3d const hit(x, m1 * x + b1, a.z);
+    COrxPoint3d const hit(a.x + along * (b.x - a.x), a.y + along * (b.y - a.y), a.z);
     if (!hit.isValid() || (bounded && !(g_line_pt(p1, p2, hit) && g_line_pt(p3, p4, hit)))) {
         return false;
     }

@@ -17,6 +17,7 @@
 #define ORX_PLANE_GEOMETRY_PLANE_GEOMETRY_H
 
 #include "orx/plane_geometry/angles.h"
+#include "orx/plane_geometry/bulge_segment.h"
 #include "orx/plane_geometry/bulges.h"
 #include "orx/plane_geometry/ellipses.h"
 #include "orx/plane_geometry/intersections.h"

@@ -6,19 +6,6 @@
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
 
-namespace {
-
-// Z x (end - start): the left-hand normal of the chord, not normalised.
-COrxVector3d chordLeftNormal(COrxPoint3d const& start, COrxPoint3d const& end) {
-    return COrxVector3d::kZAxis * (end - start);
-}
-
-COrxPoint3d midpoint(COrxPoint3d const& a, COrxPoint3d const& b) {
-    return COrxPoint3d((a.x + b.x) / 2, (a.y + b.y) / 2, (a.z + b.z) / 2);
-}
-
-}  // namespace
-
 COrxVertex::COrxVertex() : m_bulge(0.0), m_tag(0) {}
 
 COrxVertex::COrxVertex(COrxVertex const& other)
@@ -75,11 +62,18 @@ bool COrxVertex::operator==(COrxVertex const& other) const {
            m_end == other.m_end;
 }
 
+// The arc quantities are those of the plane-geometry bulge functions, which compute them
+// from the chord and the bulge: a bulge so small that its centre would overflow makes the
+// segment behave as its straight chord (no centre, no radius).
 bool COrxVertex::radius(double& r) const {
     if (isStraight()) {
         return false;
     }
-    r = m_start.distanceTo(m_end) * 0.25 * std::fabs(1.0 / m_bulge + m_bulge);
+    double const value = ORX::g_bulg_rad(m_start, m_end, m_bulge);
+    if (std::isnan(value)) {
+        return false;
+    }
+    r = value;
     return true;
 }
 
@@ -93,14 +87,11 @@ bool COrxVertex::center(COrxPoint3d& c) const {
     if (isStraight()) {
         return false;
     }
-    if (m_start == m_end) {
-        c = midpoint(m_start, m_end);
-        return true;
+    COrxPoint3d const centre = ORX::g_bulg_cen(m_start, m_end, m_bulge);
+    if (!centre.isValid()) {
+        return false;
     }
-    double const d = m_start.distanceTo(m_end);
-    COrxVector3d const u = chordLeftNormal(m_start, m_end).normal();
-    double const h = d / 4 * (1.0 / m_bulge + m_bulge) - m_bulge * d / 2;
-    c = midpoint(m_start, m_end) + u * h;
+    c = centre;
     return true;
 }
 
@@ -111,10 +102,13 @@ COrxPoint3d COrxVertex::center() const {
 }
 
 bool COrxVertex::toArc(COrxPoint3d& centre, double& r, double& startAngle, double& endAngle) const {
-    if (!center(centre)) {
+    COrxPoint3d c;
+    double radiusValue = 0.0;
+    if (!center(c) || !radius(radiusValue)) {
         return false;
     }
-    radius(r);
+    centre = c;
+    r = radiusValue;
     if (m_bulge > 0.0) {
         startAngle = ORX::angle(centre, m_start);
         endAngle = ORX::angle(centre, m_end);
@@ -126,18 +120,9 @@ bool COrxVertex::toArc(COrxPoint3d& centre, double& r, double& startAngle, doubl
 }
 
 double COrxVertex::bulgLen() const {
-    double const chord = m_start.distanceTo(m_end);
-    if (isStraight()) {
-        return chord;
-    }
-    double const theta = std::fabs(4.0 * std::atan(m_bulge));
-    return chord / (2.0 * std::sin(theta / 2)) * theta;
+    return ORX::g_bulg_len(m_start, m_end, m_bulge);
 }
 
 COrxPoint3d COrxVertex::mid() const {
-    COrxPoint3d const m = midpoint(m_start, m_end);
-    if (isStraight() || m_start == m_end) {
-        return m;
-    }
-    return m - chordLeftNormal(m_start, m_end) * (m_bulge / 2);
+    return ORX::g_bulg_mid(m_start, m_end, m_bulge);
 }

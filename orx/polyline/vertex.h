@@ -138,6 +138,10 @@ public:
     bool intNear(COrxVertex const& other, COrxPoint3d const& near, COrxPoint3d& result) const;
 
 private:
+    // This arc's ends and midpoint lie within the tolerance of the other's circle.
+    bool onCircleOf(COrxVertex const& other) const;
+    // The ends differ in the plan, so an arc has a chord and a circle.
+    bool hasChord() const;
     void findIntersections(COrxPoint3dArray& pts, COrxVertex const& other, bool extended) const;
     void filterIntersections(COrxPoint3dArray& pts, COrxVertex const& other,
                              unsigned int flags) const;

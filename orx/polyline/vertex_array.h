@@ -67,7 +67,12 @@ public:
     // where the next (cyclically) began, that next segment is first made to start where
     // segment i started, so the chain stays connected.
     COrxVertexArray& remove(unsigned int i, bool bridge);
-    // Splits segment i at p into two segments meeting at p (arcs keep their circle).
+    // Splits segment i at the foot of p on it into two segments that lie on its own line or
+    // circle and together make it up (the pieces keep the segment's tag). Nothing happens
+    // when the foot lies outside the segment or within COrxPoint3d::tol of one of its ends:
+    // a cut there would leave a piece of no length, lengthen the segment, or send an arc the
+    // long way round its circle, and the boolean operations cut at points found with that
+    // tolerance.
     COrxVertexArray& breakVertex(int i, COrxPoint3d const& p);
     // Sets every segment's bulge to b.
     COrxVertexArray& bulg(double b);

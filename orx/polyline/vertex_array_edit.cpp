@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "orx/geom/matrix.h"
+#include "orx/plane_geometry/bulge_segment.h"
 #include "orx/polyline/vertex_array.h"
 
 COrxVertexArray& COrxVertexArray::append(COrxVertex const& v) {
@@ -61,9 +62,17 @@ COrxVertexArray& COrxVertexArray::breakVertex(int i, COrxPoint3d const& p) {
     if (index < 0 || index >= len()) {
         return *this;
     }
+    COrxVertex const& v = m_vertices[index];
+    COrxPoint3d cut;
+    double first = 0.0, second = 0.0;
+    if (!ORX::g_bulg_cut(v.startPoint(), v.endPoint(), v.bulge(), p, cut, first, second)) {
+        return *this;
+    }
     insertAt(static_cast<unsigned int>(index), m_vertices[index]);
-    m_vertices[index].setEndPoint(p);
-    m_vertices[index + 1].setStartPoint(p);
+    COrxVertex& head = m_vertices[index];
+    COrxVertex& tail = m_vertices[index + 1];
+    head.set(head.startPoint(), cut, first);
+    tail.set(cut, tail.endPoint(), second);
     return *this;
 }
 

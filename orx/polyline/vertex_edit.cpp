@@ -15,12 +15,6 @@ double negatedBulge(double bulge) {
     return bulge == 0.0 ? 0.0 : -bulge;
 }
 
-// The bulge of the arc about a fixed circle from angle a0 to angle a1, turning the way
-// `sense` (the old bulge) turned.
-double bulgeWithSense(double a0, double a1, double sense) {
-    return sense > 0.0 ? ORX::g_arc_bulg(a0, a1) : -ORX::g_arc_bulg(a1, a0);
-}
-
 }  // namespace
 
 COrxVertex& COrxVertex::revert() {
@@ -87,32 +81,33 @@ COrxVertex& COrxVertex::mirror(double angle, COrxPoint3d const& p) {
     return *this;
 }
 
+// An arc keeps its circle: the new end is the radial foot of q, and the new bulge turns
+// through the angle from the start to it in the arc's own sense (computed from the chord,
+// see g_bulg_to). A segment whose ends coincide has no circle to keep and takes q as it is.
 COrxVertex& COrxVertex::setEndPoint(COrxPoint3d const& q) {
-    COrxPoint3d c;
-    double r = 0.0;
-    if (!center(c) || !radius(r)) {
+    if (isStraight() || !hasChord()) {
         m_end = q;
         return *this;
     }
-    double const a0 = ORX::angle(c, m_start);
-    double const a1 = ORX::angle(c, q);
-    m_end = ORX::polar(c, a1, r);
-    m_bulge = bulgeWithSense(a0, a1, m_bulge);
+    double const bulge = ORX::g_bulg_to(m_start, m_end, m_bulge, q);
+    m_end = ORX::g_bulg_lotp(m_start, m_end, m_bulge, q);
+    m_bulge = bulge;
     return *this;
 }
 
 COrxVertex& COrxVertex::setStartPoint(COrxPoint3d const& q) {
-    COrxPoint3d c;
-    double r = 0.0;
-    if (!center(c) || !radius(r)) {
+    if (isStraight() || !hasChord()) {
         m_start = q;
         return *this;
     }
-    double const a0 = ORX::angle(c, q);
-    double const a1 = ORX::angle(c, m_end);
-    m_start = ORX::polar(c, a0, r);
-    m_bulge = bulgeWithSense(a0, a1, m_bulge);
+    double const bulge = ORX::g_bulg_from(m_start, m_end, m_bulge, q);
+    m_start = ORX::g_bulg_lotp(m_start, m_end, m_bulge, q);
+    m_bulge = bulge;
     return *this;
+}
+
+bool COrxVertex::hasChord() const {
+    return m_start.x != m_end.x || m_start.y != m_end.y;
 }
 
 COrxVertex& COrxVertex::offset(double d) {

@@ -20,48 +20,13 @@ COrxPoint3dArray COrxVertex::intersectWith(COrxVertex const& other, unsigned int
     return pts;
 }
 
-// Dispatch by segment kind: line-line, arc-line (the arc always first) and arc-arc (the
-// smaller circle first), on the segments themselves or, extended, on infinite lines and
-// full circles.
+// Line-line, arc-line and arc-arc alike, on the segments themselves or, extended, on
+// infinite lines and full circles; computed from the chords (see g_bulg_int), so that a
+// nearly straight arc meets as precisely as its chord.
 void COrxVertex::findIntersections(COrxPoint3dArray& pts, COrxVertex const& other,
                                    bool extended) const {
-    if (isStraight() && other.isStraight()) {
-        COrxPoint3d crossing;
-        if (ORX::inters(m_start, m_end, other.m_start, other.m_end, !extended, crossing)) {
-            pts.append(crossing);
-        }
-        return;
-    }
-    if (isStraight()) {
-        other.findIntersections(pts, *this, extended);
-        return;
-    }
-    COrxPoint3d c;
-    double r = 0.0, a0 = 0.0, a1 = 0.0;
-    toArc(c, r, a0, a1);
-    if (other.isStraight()) {
-        if (extended) {
-            ORX::g_cli0(pts, c, r, other.m_start, other.m_end);
-        } else {
-            ORX::g_ali(pts, c, r, a0, a1, other.m_start, other.m_end);
-        }
-        return;
-    }
-    COrxPoint3d oc;
-    double orr = 0.0, b0 = 0.0, b1 = 0.0;
-    other.toArc(oc, orr, b0, b1);
-    if (orr < r) {
-        // The circle functions compute the points from the first circle's centre; from the
-        // far centre of a nearly straight arc (a huge radius) they would be off by more than
-        // the tolerance. The smaller circle goes first, whichever segment asked.
-        other.findIntersections(pts, *this, extended);
-        return;
-    }
-    if (extended) {
-        ORX::g_cci(pts, c, r, oc, orr);
-    } else {
-        ORX::g_aai(pts, c, r, a0, a1, oc, orr, b0, b1);
-    }
+    ORX::g_bulg_int(pts, m_start, m_end, m_bulge, other.m_start, other.m_end, other.m_bulge,
+                    extended);
 }
 
 void COrxVertex::filterIntersections(COrxPoint3dArray& pts, COrxVertex const& other,

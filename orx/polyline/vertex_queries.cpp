@@ -1,18 +1,10 @@
 // COrxVertex: where a point lies relative to the segment.
 #include <cmath>
+#include <initializer_list>
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
 #include "orx/polyline/vertex.h"
-
-namespace {
-
-// Angle swept from a0 to a1 in the direction given by the bulge's sign, in [0, 2pi).
-double sweptAngle(double a0, double a1, double bulge) {
-    return bulge > 0.0 ? ORX::g_ang(a1 - a0) : ORX::g_ang(a0 - a1);
-}
-
-}  // namespace
 
 bool COrxVertex::isPoint(COrxPoint3d const& p) const {
     if (p == m_start || p == m_end) {
@@ -21,10 +13,8 @@ bool COrxVertex::isPoint(COrxPoint3d const& p) const {
     if (isStraight()) {
         return ORX::g_line_pt(m_start, m_end, p);
     }
-    COrxPoint3d c;
-    double r = 0.0, a0 = 0.0, a1 = 0.0;
-    toArc(c, r, a0, a1);
-    return ORX::g_arc_pt(c, r, a0, a1, p);
+    // The distance to the arc itself: beyond its ends the distance to the nearer end.
+    return ORX::g_bulg_pt_dist(m_start, m_end, m_bulge, p) <= COrxPoint3d::tol;
 }
 
 COrxPoint3d COrxVertex::lotp(COrxPoint3d const& p) const {
@@ -34,8 +24,7 @@ COrxPoint3d COrxVertex::lotp(COrxPoint3d const& p) const {
     if (isStraight()) {
         return ORX::g_lotp(m_start, m_end, p);
     }
-    COrxPoint3d const c = center();
-    return ORX::polar(c, ORX::angle(c, p), c.distanceTo(m_start));
+    return ORX::g_bulg_lotp(m_start, m_end, m_bulge, p);
 }
 
 bool COrxVertex::distAtPoint(double& dist, COrxPoint3d const& p) const {
@@ -49,8 +38,8 @@ bool COrxVertex::distAtPoint(double& dist, COrxPoint3d const& p) const {
     } else if (isStraight()) {
         dist = m_start.distanceTo(p);
     } else {
-        COrxPoint3d const c = center();
-        dist = sweptAngle(ORX::angle(c, m_start), ORX::angle(c, p), m_bulge) * radius();
+        dist =
+            std::fmin(std::fmax(0.0, ORX::g_bulg_dist_at(m_start, m_end, m_bulge, p)), bulgLen());
     }
     return true;
 }
@@ -59,14 +48,7 @@ bool COrxVertex::pointAtDist(COrxPoint3d& p, double dist, bool bounded) const {
     if (!std::isfinite(dist) || (bounded && (dist < 0.0 || dist > bulgLen()))) {
         return false;
     }
-    if (isStraight()) {
-        p = m_start + (m_end - m_start).normal() * dist;
-        return true;
-    }
-    COrxPoint3d const c = center();
-    double const r = radius();
-    double const a0 = ORX::angle(c, m_start);
-    p = ORX::polar(c, m_bulge > 0.0 ? a0 + dist / r : a0 - dist / r, r);
+    p = ORX::g_bulg_pt_at(m_start, m_end, m_bulge, dist);
     return true;
 }
 
@@ -82,10 +64,11 @@ int COrxVertex::orientp(COrxPoint3d const& p) const {
 }
 
 double COrxVertex::wTan(COrxPoint3d const& p) const {
-    if (isStraight()) {
-        return ORX::angle(m_start, m_end);
+    COrxPoint3d c;
+    if (!center(c)) {
+        return ORX::angle(m_start, m_end);  // straight, or an arc that is its chord
     }
-    double const radial = ORX::angle(center(), p);
+    double const radial = ORX::angle(c, p);
     return ORX::g_ang(m_bulge > 0.0 ? radial + ORX::kHalfPi : radial - ORX::kHalfPi);
 }
 
@@ -101,5 +84,17 @@ bool COrxVertex::coLinear(COrxVertex const& other) const {
     if ((m_bulge > 0.0) != (other.m_bulge > 0.0)) {
         return false;
     }
-    return center() == other.center() && std::fabs(radius() - other.radius()) <= COrxPoint3d::tol;
+    // One circle: each arc's ends and midpoint lie on the other's circle. Compared on the
+    // circles themselves rather than through the centres, which a nearly straight arc puts
+    // too far away to compare within the tolerance.
+    return onCircleOf(other) && other.onCircleOf(*this);
+}
+
+bool COrxVertex::onCircleOf(COrxVertex const& other) const {
+    for (COrxPoint3d const& p : {m_start, m_end, mid()}) {
+        if (!(other.lotp(p) == p)) {
+            return false;
+        }
+    }
+    return true;
 }

@@ -1,0 +1,131 @@
+// Where two bulge segments meet, in the frame of their chords.
+#include <cmath>
+#include <initializer_list>
+#include <utility>
+
+#include "orx/plane_geometry/bulge_segment.h"
+#include "orx/plane_geometry/bulges.h"
+#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/intersections.h"
+#include "orx/plane_geometry/lines.h"
+
+namespace ORX {
+
+namespace {
+
+using internal::ArcFrame;
+using internal::Curve;
+using internal::Meeting;
+
+struct Segment {
+    COrxPoint3d start;
+    COrxPoint3d end;
+    double bulge;
+};
+
+// The arc lies within the tolerance of the other's circle at its ends and its middle.
+bool onCircleOf(Segment const& s, ArcFrame const& other) {
+    double const t = COrxPoint3d::tol;
+    for (COrxPoint3d const& p : {s.start, s.end, g_bulg_mid(s.start, s.end, s.bulge)}) {
+        if (!(std::fabs(other.circleDistance(other.toFrame(p))) * other.halfChord() <= t)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Two arcs of one circle meet in their common end points only: the first's ends that are
+// ends of the second, then the second's ends that are ends of the first and not yet listed.
+void commonEnds(COrxPoint3dArray& pts, Segment const& a, Segment const& b) {
+    for (COrxPoint3d const& e : {a.start, a.end}) {
+        if ((e == b.start || e == b.end) && pts.indexOf(e) < 0) {
+            pts.append(e);
+        }
+    }
+    for (COrxPoint3d const& e : {b.start, b.end}) {
+        if ((e == a.start || e == a.end) && pts.indexOf(e) < 0) {
+            pts.append(e);
+        }
+    }
+}
+
+// The unit direction of the straight segment, turned so that the parameter g_cli0 uses (x,
+// or y for a steep line) grows along it.
+void lineDirection(Segment const& line, double& wx, double& wy) {
+    double const dx = line.end.x - line.start.x, dy = line.end.y - line.start.y;
+    double const length = std::hypot(dx, dy);
+    wx = dx / length;
+    wy = dy / length;
+    if (std::fabs(dy) <= std::fabs(dx) ? wx < 0.0 : wy < 0.0) {
+        wx = -wx;
+        wy = -wy;
+    }
+}
+
+// The arc (first) against the straight segment or the other arc, in offsets from the arc's
+// chord midpoint.
+Meeting meet(ArcFrame const& arc, Segment const& other, ArcFrame const& otherFrame,
+             COrxPoint3d const& origin) {
+    double const t = COrxPoint3d::tol;
+    Curve const circle = arc.curveAbout(origin.x, origin.y);
+    if (other.bulge == 0.0) {
+        double wx = 0.0, wy = 0.0;
+        lineDirection(other, wx, wy);
+        return internal::lineMeetsCurve(other.start.x - origin.x, other.start.y - origin.y, wx, wy,
+                                        circle, {t / 2, t});
+    }
+    Curve const second = otherFrame.curveAbout(origin.x, origin.y);
+    // The more curved circle first, as g_aai was given it.
+    bool const arcFirst = std::fabs(circle.a) * internal::curveScale(second) >=
+                          std::fabs(second.a) * internal::curveScale(circle);
+    internal::MeetingTolerance const tol{kTouchArcLength, t};
+    return arcFirst ? internal::circleMeetsCircle(circle, second, tol)
+                    : internal::circleMeetsCircle(second, circle, tol);
+}
+
+bool segmentInters(COrxPoint3dArray& pts, Segment const& a, Segment const& b, bool extended) {
+    COrxPoint3d crossing;
+    if (inters(a.start, a.end, b.start, b.end, !extended, crossing)) {
+        pts.append(crossing);
+    }
+    return !pts.isEmpty();
+}
+
+}  // namespace
+
+bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const& e1, double b1,
+                COrxPoint3d const& s2, COrxPoint3d const& e2, double b2, bool extended) {
+    pts.setLogicalLength(0);
+    Segment a{s1, e1, b1}, b{s2, e2, b2};
+    if (b1 == 0.0 && b2 == 0.0) {
+        return segmentInters(pts, a, b, extended);
+    }
+    if (b1 == 0.0) {
+        std::swap(a, b);  // the arc first
+    }
+    ArcFrame const arc(a.start, a.end, a.bulge), other(b.start, b.end, b.bulge);
+    if (!arc.valid() || !other.valid()) {
+        return false;
+    }
+    if (b.bulge != 0.0 && onCircleOf(b, arc) && onCircleOf(a, other)) {
+        commonEnds(pts, Segment{s1, e1, b1}, Segment{s2, e2, b2});
+        return !pts.isEmpty();
+    }
+    COrxPoint3d const origin = arc.middle();
+    Meeting const m = meet(arc, b, other, origin);
+    double const t = COrxPoint3d::tol;
+    for (int k = 0; k < m.count; ++k) {
+        COrxPoint3d const p(origin.x + m.x[k], origin.y + m.y[k], origin.z);
+        if (!p.isValid()) {
+            continue;
+        }
+        if (extended || (g_bulg_pt_dist(a.start, a.end, a.bulge, p) <= t &&
+                         g_bulg_pt_dist(b.start, b.end, b.bulge, p) <= t)) {
+            pts.append(p);
+        }
+    }
+    return !pts.isEmpty();
+}
+
+}  // namespace ORX

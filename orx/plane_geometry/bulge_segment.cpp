@@ -1,0 +1,134 @@
+#include "orx/plane_geometry/bulge_segment.h"
+
+#include <cmath>
+
+#include "orx/geom/functions.h"
+#include "orx/plane_geometry/bulges.h"
+#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/internal/finite.h"
+
+namespace ORX {
+
+namespace {
+
+using internal::ArcFrame;
+using internal::FramePoint;
+
+// The bulge of an arc that turns through sweep (>= 0) in the sense of `sense`.
+double bulgeOfSweep(double sweep, double sense) {
+    double const b = std::tan(sweep / 4);
+    return sense < 0.0 ? -b : b;
+}
+
+COrxPoint3d straightPoint(COrxPoint3d const& p1, COrxPoint3d const& p2, double t) {
+    return p1 + (p2 - p1) * t;
+}
+
+}  // namespace
+
+double g_bulg_rad(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
+    if (bulge == 0.0) {
+        return nan();
+    }
+    ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid()) {
+        // Ends that coincide: a circle of no size, as the formula gives it.
+        return std::isfinite(bulge) && p1.isValid() && p2.isValid() ? 0.0 : nan();
+    }
+    return internal::finiteOrNan(frame.halfChord() * frame.radius());
+}
+
+COrxPoint3d g_bulg_pt_at(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge, double dist) {
+    double const length = g_bulg_len(p1, p2, bulge);
+    if (!std::isfinite(dist) || !std::isfinite(length)) {
+        return internal::nanPoint();
+    }
+    if (length == 0.0) {
+        return p1;
+    }
+    if (bulge == 0.0) {
+        return straightPoint(p1, p2, dist / length);
+    }
+    ArcFrame const frame(p1, p2, bulge);
+    return frame.valid() ? frame.toWorld(frame.pointAt(dist / length)) : p1;
+}
+
+double g_bulg_dist_at(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                      COrxPoint3d const& p) {
+    double const length = g_bulg_len(p1, p2, bulge);
+    ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid() || !p.isValid()) {
+        return p.isValid() && length == 0.0 ? 0.0 : nan();
+    }
+    return internal::finiteOrNan(length * frame.fraction(frame.toFrame(p)));
+}
+
+double g_bulg_pt_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                      COrxPoint3d const& p) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (!p.isValid()) {
+        return nan();
+    }
+    if (!frame.valid()) {
+        return p1.isValid() ? std::hypot(p.x - p1.x, p.y - p1.y) : nan();
+    }
+    return frame.halfChord() * frame.distanceToSegment(frame.toFrame(p));
+}
+
+COrxPoint3d g_bulg_lotp(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                        COrxPoint3d const& p) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid()) {
+        return p1;
+    }
+    if (bulge == 0.0) {
+        return straightPoint(p1, p2, frame.fraction(frame.toFrame(p)));
+    }
+    return frame.toWorld(frame.foot(frame.toFrame(p)));
+}
+
+bool g_bulg_cut(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge, COrxPoint3d const& p,
+                COrxPoint3d& cut, double& bulge1, double& bulge2) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid() || !p.isValid()) {
+        return false;
+    }
+    double const t = frame.fraction(frame.toFrame(p));
+    if (!(t > 0.0 && t < 1.0)) {
+        return false;
+    }
+    COrxPoint3d const at =
+        bulge == 0.0 ? straightPoint(p1, p2, t) : frame.toWorld(frame.pointAt(t));
+    if (at == p1 || at == p2) {
+        return false;
+    }
+    // The pieces turn through the shares t and 1 - t of the angle: tan(t atan(b)).
+    double const quarter = std::atan(bulge);
+    cut = at;
+    bulge1 = bulge == 0.0 ? 0.0 : std::tan(t * quarter);
+    bulge2 = bulge == 0.0 ? 0.0 : std::tan((1 - t) * quarter);
+    return true;
+}
+
+double g_bulg_to(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge, COrxPoint3d const& q) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (bulge == 0.0 || !frame.valid()) {
+        return bulge == 0.0 ? 0.0 : nan();
+    }
+    return bulgeOfSweep(frame.sweepTo(frame.toFrame(q)), bulge);
+}
+
+double g_bulg_from(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                   COrxPoint3d const& q) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (bulge == 0.0 || !frame.valid()) {
+        return bulge == 0.0 ? 0.0 : nan();
+    }
+    double rest = frame.sweepAngle() - frame.sweepTo(frame.toFrame(q));
+    if (rest < 0.0) {
+        rest += kTwoPi;
+    }
+    return bulgeOfSweep(rest, bulge);
+}
+
+}  // namespace ORX

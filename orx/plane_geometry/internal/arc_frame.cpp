@@ -1,0 +1,172 @@
+#include "orx/plane_geometry/internal/arc_frame.h"
+
+#include <cmath>
+
+#include "orx/geom/functions.h"
+#include "orx/plane_geometry/internal/curve.h"
+
+namespace ORX {
+namespace internal {
+
+namespace {
+
+// The arc's circle in its own frame, divided by 1 + b^2 so that no bulge overflows it:
+// (kappa/2) s (x^2 + y^2 - 1) - gamma y = 0 with kappa the curvature in half chords, gamma
+// = (1 - b^2) / (1 + b^2) and s the sign of b. Its gradient has length 1 on the circle. For
+// a flat arc the chord line y = 0, with the distance positive on the right as the arcs' is
+// outside.
+Curve frameCurve(double kappa, double gamma, double sign) {
+    double const a = sign * kappa / 2;
+    return {a, 0.0, -gamma, -a};
+}
+
+}  // namespace
+
+ArcFrame::ArcFrame(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) : m_b(bulge) {
+    double const dx = end.x - start.x, dy = end.y - start.y;
+    double const chord = std::hypot(dx, dy);
+    m_valid = chord > 0.0 && std::isfinite(chord) && std::isfinite(bulge) &&
+              std::isfinite(start.z) && std::isfinite(end.z);
+    m_h = chord / 2;
+    m_ux = m_valid ? dx / chord : 1.0;
+    m_uy = m_valid ? dy / chord : 0.0;
+    m_mx = start.x + dx / 2;
+    m_my = start.y + dy / 2;
+    m_mz = start.z + (end.z - start.z) / 2;
+    m_sign = bulge < 0.0 ? -1.0 : 1.0;
+    // kappa = 2|b| / (1 + b^2) and gamma = (1 - b^2) / (1 + b^2) are unchanged when b turns
+    // into 1/b (gamma changes sign); above 1 they are written in 1/b so that b^2 cannot
+    // overflow.
+    double const c = std::fabs(bulge) <= 1.0 ? std::fabs(bulge) : 1 / std::fabs(bulge);
+    double const flip = std::fabs(bulge) <= 1.0 ? 1.0 : -1.0;
+    m_kappa = 2 * c / (1 + c * c);
+    m_gamma = flip * (1 - c * c) / (1 + c * c);
+}
+
+bool ArcFrame::flat() const {
+    return std::fabs(m_b) < kFlatBulge;
+}
+
+FramePoint ArcFrame::toFrame(COrxPoint3d const& p) const {
+    double const rx = p.x - m_mx, ry = p.y - m_my;
+    return {(rx * m_ux + ry * m_uy) / m_h, (ry * m_ux - rx * m_uy) / m_h};
+}
+
+COrxPoint3d ArcFrame::toWorld(FramePoint const& q) const {
+    return COrxPoint3d(m_mx + m_h * (q.x * m_ux - q.y * m_uy),
+                       m_my + m_h * (q.x * m_uy + q.y * m_ux), m_mz);
+}
+
+void ArcFrame::toWorldDirection(FramePoint const& v, double& dx, double& dy) const {
+    dx = m_h * (v.x * m_ux - v.y * m_uy);
+    dy = m_h * (v.x * m_uy + v.y * m_ux);
+}
+
+double ArcFrame::sweepAngle() const {
+    return 4 * std::atan(std::fabs(m_b));
+}
+
+double ArcFrame::radius() const {
+    return 1 / m_kappa;
+}
+
+double ArcFrame::centreY() const {
+    return m_sign * m_gamma / m_kappa;
+}
+
+// The cross products of the start's and the end's radius with q's, seen from the centre in
+// the arc's sense, divided by the positive R^2 / kappa so that they stay finite as the centre
+// runs away: >= 0 when q lies beyond the start's radius, before the end's.
+double ArcFrame::sigmaStart(FramePoint const& q) const {
+    return m_gamma * (1 + q.x) - m_sign * m_kappa * q.y;
+}
+
+double ArcFrame::sigmaEnd(FramePoint const& q) const {
+    return m_gamma * (1 - q.x) - m_sign * m_kappa * q.y;
+}
+
+// The angle from the start's radius to q's in the arc's sense, in (-pi, pi]: atan2 of the
+// cross and the dot product of the two radii, both divided by R^2.
+double ArcFrame::angleFromStart(FramePoint const& q) const {
+    double const dot =
+        m_gamma * m_gamma - m_sign * m_gamma * m_kappa * q.y - m_kappa * m_kappa * q.x;
+    return std::atan2(m_kappa * sigmaStart(q), dot);
+}
+
+double ArcFrame::circleDistance(FramePoint const& q) const {
+    return curveDistance(frameCurve(m_kappa, m_gamma, m_sign), q.x, q.y);
+}
+
+bool ArcFrame::inSweep(FramePoint const& q) const {
+    if (flat()) {
+        return q.x >= -1.0 && q.x <= 1.0;
+    }
+    bool const afterStart = sigmaStart(q) >= 0.0;
+    bool const beforeEnd = sigmaEnd(q) >= 0.0;
+    // Up to a half circle the sector is where both hold; beyond it, where either does.
+    return std::fabs(m_b) <= 1.0 ? afterStart && beforeEnd : afterStart || beforeEnd;
+}
+
+double ArcFrame::distanceToSegment(FramePoint const& q) const {
+    if (inSweep(q)) {
+        return std::fabs(circleDistance(q));
+    }
+    return std::fmin(std::hypot(q.x + 1, q.y), std::hypot(q.x - 1, q.y));
+}
+
+FramePoint ArcFrame::foot(FramePoint const& q) const {
+    FramePoint f = q;
+    curveFoot(frameCurve(m_kappa, m_gamma, m_sign), f.x, f.y);
+    return f;
+}
+
+double ArcFrame::fraction(FramePoint const& q) const {
+    if (flat()) {
+        return (1 + q.x) / 2;
+    }
+    double const sweep = sweepAngle();
+    double phi = angleFromStart(q);
+    // Outside the arc, count from the nearer end: the gap of the circle is split in halves.
+    if (phi < -(kTwoPi - sweep) / 2) {
+        phi += kTwoPi;
+    }
+    return phi / sweep;
+}
+
+FramePoint ArcFrame::pointAt(double t) const {
+    if (flat()) {
+        return {-1 + 2 * t, 0.0};
+    }
+    // The chord from the start to the point: 2R sin(t |theta| / 2) long, turned from the
+    // chord by (t - 1) theta / 2 (theta signed).
+    double const quarter = std::atan(m_b);
+    double const length = 2 / m_kappa * std::sin(t * 2 * std::fabs(quarter));
+    double const turn = (t - 1) * 2 * quarter;
+    return {-1 + length * std::cos(turn), length * std::sin(turn)};
+}
+
+double ArcFrame::sweepTo(FramePoint const& q) const {
+    double phi = flat() ? fraction(q) * sweepAngle() : angleFromStart(q);
+    if (phi < 0.0) {
+        phi += kTwoPi;
+    }
+    return phi;
+}
+
+Curve ArcFrame::curveAbout(double ox, double oy) const {
+    // h^2 times the frame's circle, rewritten in world offsets q from the origin: with m the
+    // chord midpoint and n the chord's left normal, a |q - m|^2 - gamma h n.(q - m) - a h^2.
+    double const a = m_sign * m_kappa / 2;
+    double const mx = m_mx - ox, my = m_my - oy;
+    double const nx = -m_uy, ny = m_ux;
+    double const c = m_gamma * m_h;
+    return {a, -2 * a * mx - c * nx, -2 * a * my - c * ny,
+            a * (mx * mx + my * my - m_h * m_h) + c * (mx * nx + my * ny)};
+}
+
+COrxPoint3d ArcFrame::middle() const {
+    return COrxPoint3d(m_mx, m_my, m_mz);
+}
+
+}  // namespace internal
+}  // namespace ORX
