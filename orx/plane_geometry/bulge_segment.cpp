@@ -12,6 +12,7 @@ namespace ORX {
 namespace {
 
 using internal::ArcFrame;
+
 using internal::FramePoint;
 
 // The bulge of an arc that turns through sweep (>= 0) in the sense of `sense`.
@@ -20,11 +21,39 @@ double bulgeOfSweep(double sweep, double sense) {
     return sense < 0.0 ? -b : b;
 }
 
+// theta - sin(theta), summed from its series below an angle of 1 where the difference
+// would cancel (the terms fall by a factor of at least 20 each).
+double thetaMinusSine(double theta) {
+    if (!(std::fabs(theta) < 1.0)) {
+        return theta - std::sin(theta);
+    }
+    double const square = theta * theta;
+    double term = theta * square / 6;
+    double sum = 0.0;
+    for (int k = 1; k < 12 && term != 0.0; ++k) {
+        sum += term;
+        term *= -square / ((2 * k + 2) * (2 * k + 3));
+    }
+    return sum;
+}
+
 COrxPoint3d straightPoint(COrxPoint3d const& p1, COrxPoint3d const& p2, double t) {
     return p1 + (p2 - p1) * t;
 }
 
 }  // namespace
+
+double g_bulg_area(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
+    if (bulge == 0.0) {
+        return 0.0;
+    }
+    // r = chord / (2 sin(theta/2)): r^2 / 2 (theta - sin theta) without forming r.
+    double const dx = p2.x - p1.x, dy = p2.y - p1.y;
+    double const theta = 4 * std::atan(bulge);
+    double const half = std::sin(theta / 2);
+    double const area = (dx * dx + dy * dy) / (8 * half * half) * thetaMinusSine(theta);
+    return std::isfinite(area) ? area : nan();
+}
 
 double g_bulg_rad(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
     if (bulge == 0.0) {

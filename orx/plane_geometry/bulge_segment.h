@@ -24,6 +24,11 @@ namespace ORX {
 // small that the radius overflows (the arc is its chord).
 ORX_API double g_bulg_rad(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge);
 
+// The signed area between the chord and the arc (the circular segment): positive for a
+// positive bulge, r^2 / 2 (theta - sin theta) with theta = 4 atan(bulge); 0 for a straight
+// segment. Evaluated without cancelling for a tiny bulge (about 2/3 chord * sagitta).
+ORX_API double g_bulg_area(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge);
+
 // The point at dist along the segment from p1. Outside [0, length] the line or circle is
 // extrapolated. NaN coordinates for a non-finite dist.
 ORX_API COrxPoint3d g_bulg_pt_at(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,

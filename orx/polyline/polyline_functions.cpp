@@ -6,6 +6,7 @@
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/point_list_functions.h"
+#include "orx/plane_geometry/bulge_segment.h"
 #include "orx/polyline/vertex_functions.h"
 
 namespace ORX {
@@ -85,11 +86,7 @@ double g_vl_area(COrxVertexArray const& vl) {
         COrxVector3d const a = v.startPoint() - runStart;
         COrxVector3d const b = v.endPoint() - runStart;
         total += (a.x * b.y - b.x * a.y) / 2;
-        if (!v.isStraight()) {
-            double const theta = 4.0 * std::atan(v.bulge());
-            double const r = v.radius();
-            total += r * r / 2 * (theta - std::sin(theta));
-        }
+        total += g_bulg_area(v.startPoint(), v.endPoint(), v.bulge());
     }
     return total;
 }

@@ -1,24 +1,12 @@
 // COrxVertexArray::norm: the clean-up run after construction, editing and the boolean
 // operations.
+#include "orx/polyline/internal/run_merger.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace {
 
 bool collapsed(COrxVertex const& v) {
     return v.startPoint() == v.endPoint();
-}
-
-// c and next continue one another: next starts where c ends, on the same line or circle.
-// Segments that do not meet are never merged, so the separate loops of one polyline (as the
-// boolean operations return them) stay apart. Arcs of one circle are not merged when
-// together they would close the whole circle: a full circle cannot be written as one bulge,
-// and merging would erase it. (A straight run that goes back on itself still merges and
-// collapses.)
-bool mergeable(COrxVertex const& c, COrxVertex const& next) {
-    if (c.endPoint() != next.startPoint() || !c.coLinear(next)) {
-        return false;
-    }
-    return c.isStraight() || next.endPoint() != c.startPoint();
 }
 
 }  // namespace
@@ -42,31 +30,31 @@ COrxVertexArray& COrxVertexArray::norm(bool keepStart) {
     //    the last segment), so that a collinear run across the seam stays in one piece.
     int start = 0;
     if (!keepStart) {
-        COrxVertex c = work.m_vertices[n - 1];
-        while (start < n && mergeable(c, work.m_vertices[start])) {
-            c = c.unite(work.m_vertices[start]);
+        ORX::internal::RunMerger seam(work.m_vertices[n - 1]);
+        while (start < n && seam.tryAppend(work.m_vertices[start])) {
             ++start;
-            if (collapsed(c)) {
+            if (collapsed(seam.merged())) {
                 break;
             }
         }
     }
-    // 3. Rebuild from there, merging each run into one segment.
+    // 3. Rebuild from there, merging each run into one segment while every vertex it drops
+    //    stays within the tolerance of the merged segment (segments that do not meet are
+    //    never merged, so the separate loops of one polyline stay apart).
     setLogicalLength(0);
     bool anyCollapsed = false;
     for (int i = 0; i < n; ++i) {
-        COrxVertex c = work.m_vertices[(i + start) % n];
-        while (i < n - 1 && mergeable(c, work.m_vertices[(i + start + 1) % n])) {
-            c = c.unite(work.m_vertices[(i + start + 1) % n]);
+        ORX::internal::RunMerger run(work.m_vertices[(i + start) % n]);
+        while (i < n - 1 && run.tryAppend(work.m_vertices[(i + start + 1) % n])) {
             ++i;
-            if (collapsed(c)) {
+            if (collapsed(run.merged())) {
                 break;
             }
         }
-        if (collapsed(c)) {
+        if (collapsed(run.merged())) {
             anyCollapsed = true;
         } else {
-            append(c);
+            append(run.merged());
         }
     }
     // 4. A collapse may have brought new neighbours together: again until stable.

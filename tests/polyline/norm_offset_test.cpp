@@ -38,13 +38,26 @@ TEST(NormTest, DropsZeroLengthSegmentsAndSnapsJoints) {
     EXPECT_EQ(vl[0].endPoint().x, vl[1].startPoint().x);  // exactly
 }
 
-TEST(NormTest, BackAndForthRunsCollapse) {
-    EXPECT_TRUE(polygon({pt(0, 0), pt(3, 0)}).norm(false).isEmpty());
-    // Up an edge and back down part of it.
-    COrxVertexArray spike = polygon({pt(0, 0), pt(2, 0), pt(2, 3), pt(2, 1)});
-    spike.norm(false);
-    EXPECT_EQ(spike.len(), 3);
-    EXPECT_TRUE(spike.isClosed());
+TEST(NormTest, NeverDropsAVertexFartherThanTheTolerance) {
+    // A run that goes back on itself would drop its turning point: it stays.
+    EXPECT_EQ(polygon({pt(0, 0), pt(3, 0)}).norm(false).len(), 2);
+    EXPECT_EQ(polygon({pt(0, 0), pt(2, 0), pt(2, 3), pt(2, 1)}).norm(false).len(), 4);
+    // A fine regular polygon of a circle: each joint is nearly straight, but the merged
+    // segments may not cut more than the tolerance off the original vertices.
+    int const n = 20000;
+    COrxPoint3dArray corners;
+    for (int k = 0; k < n; ++k) {
+        corners.append(ORX::polar(pt(0, 0), ORX::kTwoPi * k / n, 1.0));
+    }
+    COrxVertexArray fine;
+    fine.fromPoints(corners, true);
+    COrxVertexArray merged = fine;
+    merged.norm(false);
+    EXPECT_LT(merged.len(), n / 10);  // the nearly straight runs do merge
+    EXPECT_TRUE(merged.isClosed());
+    for (int k = 0; k < n; ++k) {
+        ASSERT_TRUE(merged.isPoint(corners[k])) << "vertex " << k;
+    }
 }
 
 TEST(NormTest, NeverErasesACircleMadeOfArcs) {
