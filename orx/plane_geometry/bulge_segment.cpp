@@ -5,6 +5,7 @@
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/bulges.h"
 #include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/internal/exact_sign.h"
 #include "orx/plane_geometry/internal/finite.h"
 
 namespace ORX {
@@ -41,7 +42,49 @@ COrxPoint3d straightPoint(COrxPoint3d const& p1, COrxPoint3d const& p2, double t
     return p1 + (p2 - p1) * t;
 }
 
+// The side of the chord p1 -> p2 that p lies on (+1 left). A point exactly on the chord's
+// line counts as moved by (-e, e^2) for an infinitely small e: a little towards -x, and on a
+// level chord a little up. The ray's half-open rule (a point level with an end counts as
+// above it) moves points the same way, so every segment sees the same moved point.
+int chordSide(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p) {
+    int const side = internal::orientationSign(p1.x, p1.y, p2.x, p2.y, p.x, p.y);
+    if (side != 0) {
+        return side;
+    }
+    double const dy = p2.y - p1.y, dx = p2.x - p1.x;
+    return dy != 0.0 ? (dy > 0.0 ? 1 : -1) : (dx > 0.0 ? 1 : -1);
+}
+
+// p lies inside the circular segment: on the sagitta's side of the chord (the right for a
+// positive bulge) and inside the circle.
+bool inCircularSegment(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                       COrxPoint3d const& p) {
+    double const sign = bulge > 0.0 ? 1.0 : -1.0;
+    if (sign * chordSide(p1, p2, p) >= 0) {
+        return false;
+    }
+    double kappa = 0.0, gamma = 0.0;
+    internal::curvatureTerms(bulge, kappa, gamma);
+    return internal::circleSideSign(p1.x, p1.y, p2.x, p2.y, p.x, p.y, kappa, sign * gamma) < 0;
+}
+
 }  // namespace
+
+int g_bulg_winding(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                   COrxPoint3d const& p) {
+    int winding = 0;
+    bool const up = p1.y <= p.y && p.y < p2.y;
+    bool const down = p2.y <= p.y && p.y < p1.y;
+    if (up || down) {
+        int const side = chordSide(p1, p2, p);
+        winding += up && side > 0 ? 1 : 0;
+        winding -= down && side < 0 ? 1 : 0;
+    }
+    if (bulge != 0.0 && std::isfinite(bulge) && inCircularSegment(p1, p2, bulge, p)) {
+        winding += bulge > 0.0 ? 1 : -1;
+    }
+    return winding;
+}
 
 double g_bulg_area(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
     if (bulge == 0.0) {

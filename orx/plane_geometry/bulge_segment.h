@@ -66,6 +66,16 @@ ORX_API double g_bulg_to(COrxPoint3d const& p1, COrxPoint3d const& p2, double bu
 ORX_API double g_bulg_from(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
                            COrxPoint3d const& q);
 
+// The segment's share of the winding number of p: the crossing of its chord with the ray
+// from p towards +x (+1 upwards, -1 downwards, the lower end counted and the upper not),
+// plus the sign of the bulge when p lies inside the circular segment between the chord and
+// the arc. Summed over a closed polyline it is the polyline's winding number at p. Decided
+// exactly, without a tolerance: a point exactly on a chord's line counts as moved a little
+// towards -x and a hair up (as the half-open rule at the ends does), one exactly on a circle
+// as outside it. 0 for NaN input.
+ORX_API int g_bulg_winding(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                           COrxPoint3d const& p);
+
 }  // namespace ORX
 
 #endif  // ORX_PLANE_GEOMETRY_BULGE_SEGMENT_H

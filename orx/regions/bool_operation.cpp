@@ -8,6 +8,7 @@
 #include "orx/polyline/internal/segment_box.h"
 #include "orx/polyline/internal/segment_grid.h"
 #include "orx/regions/internal/indexed_polyline.h"
+#include "orx/regions/internal/overlay.h"
 #include "orx/regions/internal/piece_index.h"
 
 namespace ORX {
@@ -56,41 +57,6 @@ void splitBox(std::vector<internal::SegmentBox>& boxes, COrxVertexArray const& v
     auto const at = boxes.begin() + k;
     *at = internal::segmentBox(vl[k]);
     boxes.insert(at + 1, internal::segmentBox(vl[k + 1]));
-}
-
-bool holdsReversed(COrxVertexArray const& vl, COrxVertex const& piece) {
-    return vl.indexOf(piece.reverse()) >= 0;
-}
-
-// The pieces of `from` that the operation keeps, tested against `other`.
-void selectPieces(COrxVertexArray const& from, COrxVertexArray const& other, bool first,
-                  COrxVertexArray::boolOper op, COrxVertexArray& result) {
-    internal::IndexedPolyline const against(other);
-    for (int k = 0; k < from.len(); ++k) {
-        COrxVertex const& s = from[k];
-        COrxPoint3d const m = s.mid();
-        bool const in = against.inside(m, false);
-        bool const inOrOn = in || against.inside(m, true);
-        switch (op) {
-            case COrxVertexArray::boolUnion:
-                if (!inOrOn) {
-                    result.append(s);
-                }
-                break;
-            case COrxVertexArray::boolDiff:
-                if (first && !inOrOn) {
-                    result.append(s);
-                } else if (!first && (in || (inOrOn && holdsReversed(other, s)))) {
-                    result.append(s.reverse());
-                }
-                break;
-            case COrxVertexArray::boolSect:
-                if (in || (first && inOrOn && other.indexOf(s) >= 0)) {
-                    result.append(s);
-                }
-                break;
-        }
-    }
 }
 
 }  // namespace
@@ -158,12 +124,32 @@ void g_vl_sort(COrxVertexArray& vl) {
 }
 
 COrxVertexArray g_vl_bool(COrxVertexArray a, COrxVertexArray b, COrxVertexArray::boolOper op) {
-    g_vl_break(a, b, 3);
+    if (op != COrxVertexArray::boolUnion && op != COrxVertexArray::boolDiff &&
+        op != COrxVertexArray::boolSect) {
+        return COrxVertexArray();
+    }
+    if (!internal::allFinite(a) || !internal::allFinite(b)) {
+        return COrxVertexArray();
+    }
+    // The difference keeps b's pieces reversed: reverse b first, so that coincident pieces
+    // are compared the way they will run in the result.
+    if (op == COrxVertexArray::boolDiff) {
+        b.revert();
+    }
+    internal::Loops first, second;
+    first.append(a);
+    second.append(b);
+    internal::OverlayOp const overlay =
+        op == COrxVertexArray::boolUnion  ? internal::OverlayOp::kUnion
+        : op == COrxVertexArray::boolDiff ? internal::OverlayOp::kDifference
+                                          : internal::OverlayOp::kIntersection;
+    internal::Loops const loops =
+        internal::closedLoops(internal::overlayPieces(first, second, overlay));
     COrxVertexArray result;
-    selectPieces(a, b, true, op, result);
-    selectPieces(b, a, false, op, result);
-    g_vl_sort(result);
-    return result.norm(false);
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        result += loops[static_cast<int>(k)];
+    }
+    return result;
 }
 
 }  // namespace ORX

@@ -5,6 +5,7 @@
 #include "orx/regions/region.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
@@ -12,6 +13,8 @@
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/indexed_polyline.h"
+#include "orx/regions/internal/overlay.h"
+#include "orx/regions/internal/winding_index.h"
 
 namespace ORX {
 
@@ -22,26 +25,9 @@ using RegionList = COrxArrayTempl<Region>;
 
 enum class RegionOp { kUnion, kSect, kDiff };
 
-// Classes of g_vll_pt_inside.
-constexpr int kInside = 1;
-constexpr int kOnBoundary = 0;
-constexpr int kOutside = -1;
-
-// Union and difference classify each piece under a point tolerance of at most this share of
-// its length, so that short pieces are not taken for points of the other boundary.
-constexpr double kPieceTolShare = 0.2;
-
 COrxVector3d& referenceNormal() {
     static COrxVector3d normal(0.0, 0.0, 1.0);
     return normal;
-}
-
-int segmentCount(Region const& region) {
-    int count = 0;
-    for (unsigned long k = 0; k < region.len(); ++k) {
-        count += region[static_cast<int>(k)].len();
-    }
-    return count;
 }
 
 bool disjoint(Region const& a, Region const& b) {
@@ -56,82 +42,53 @@ void revertLoops(Region& region, unsigned long from, unsigned long to) {
     }
 }
 
-// The class of every piece of `region` against `other`, in loop and segment order.
-std::vector<int> classify(Region const& region, Region const& other, COrxPoint3dTol* pieceTol,
-                          double standardTol) {
-    internal::IndexedRegion const against(other);
-    std::vector<int> classes;
-    classes.reserve(static_cast<std::size_t>(segmentCount(region)));
-    for (unsigned long l = 0; l < region.len(); ++l) {
-        COrxVertexArray const& loop = region[static_cast<int>(l)];
-        for (int k = 0; k < loop.len(); ++k) {
-            if (pieceTol != nullptr) {
-                *pieceTol = std::min(standardTol, loop[k].bulgLen() * kPieceTolShare);
-            }
-            classes.push_back(against.inside(loop[k].mid()));
+// A point of the loop that does not lie on `outer`'s boundary: the midpoint of its first
+// segment off it (none when the two coincide everywhere).
+bool pointOff(COrxVertexArray const& loop, COrxVertexArray const& outer, COrxPoint3d& p) {
+    for (int k = 0; k < loop.len(); ++k) {
+        if (!outer.isPoint(loop[k].mid())) {
+            p = loop[k].mid();
+            return true;
         }
     }
-    return classes;
+    return false;
 }
 
-bool keepsFirst(RegionOp op, int cls) {
-    return op == RegionOp::kSect ? cls == kInside : cls == kOutside;
-}
-
-bool keepsSecond(RegionOp op, int cls) {
-    return op == RegionOp::kUnion ? cls == kOutside : cls == kInside;
-}
-
-// Selection: a's pieces on b's boundary are collected in `shared`; b's pieces on a's
-// boundary are kept unless their reverse is one of them (so a shared stretch survives once,
-// as b's copy, when both copies run the same way, and vanishes when they run opposite ways).
-COrxVertexArray selectPieces(Region const& a, std::vector<int> const& classesA, Region const& b,
-                             std::vector<int> const& classesB, RegionOp op) {
-    COrxVertexArray kept, shared;
-    std::size_t n = 0;
-    for (unsigned long l = 0; l < a.len(); ++l) {
-        COrxVertexArray const& loop = a[static_cast<int>(l)];
-        for (int k = 0; k < loop.len(); ++k, ++n) {
-            if (classesA[n] == kOnBoundary) {
-                shared.append(loop[k]);
-            } else if (keepsFirst(op, classesA[n])) {
-                kept.append(loop[k]);
+// Groups the closed loops of a result into regions by their sense: the loops that run as the
+// operands' outer loops did are outer loops, the others holes (the operation keeps the area
+// on the same side of every edge). A hole goes to the smallest outer loop around it; a hole
+// that none holds is left out. The holes are turned back to the outer loops' sense.
+RegionList groupBySense(internal::Loops const& loops, bool counterClockwise) {
+    std::vector<int> outer, holes;
+    std::vector<double> size(loops.len());
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        double const area = g_vl_area(loops[static_cast<int>(k)]);
+        size[k] = std::fabs(area);
+        ((area > 0.0) == counterClockwise ? outer : holes).push_back(static_cast<int>(k));
+    }
+    RegionList regions;
+    for (int o : outer) {
+        Region region;
+        regions.append(region.append(loops[o]));
+    }
+    for (int h : holes) {
+        int best = -1;
+        for (std::size_t r = 0; r < outer.size(); ++r) {
+            COrxVertexArray const& candidate = loops[outer[r]];
+            COrxPoint3d p;
+            if (size[static_cast<std::size_t>(outer[r])] > size[static_cast<std::size_t>(h)] &&
+                (best < 0 ||
+                 size[static_cast<std::size_t>(outer[r])] <
+                     size[static_cast<std::size_t>(outer[static_cast<std::size_t>(best)])]) &&
+                pointOff(loops[h], candidate, p) && internal::WindingIndex(candidate).inside(p)) {
+                best = static_cast<int>(r);
             }
         }
-    }
-    n = 0;
-    for (unsigned long l = 0; l < b.len(); ++l) {
-        COrxVertexArray const& loop = b[static_cast<int>(l)];
-        for (int k = 0; k < loop.len(); ++k, ++n) {
-            bool const onA = classesB[n] == kOnBoundary;
-            if ((onA && shared.indexOf(loop[k].reverse()) < 0) ||
-                (!onA && keepsSecond(op, classesB[n]))) {
-                kept.append(loop[k]);
-            }
+        if (best >= 0) {
+            regions[best].append(loops[h].reverse());
         }
     }
-    return kept;
-}
-
-// Holes back to the common sense; then regions whose outer loop is not closed go, and in
-// the others every loop that is not closed.
-void cleanUp(RegionList& regions) {
-    for (unsigned long r = 0; r < regions.len(); ++r) {
-        Region& region = regions[static_cast<int>(r)];
-        revertLoops(region, 1, region.len());
-    }
-    for (int r = static_cast<int>(regions.len()) - 1; r >= 0; --r) {
-        Region& region = regions[r];
-        if (!region[0].isClosed()) {
-            regions.removeAt(static_cast<unsigned long>(r));
-            continue;
-        }
-        for (int l = static_cast<int>(region.len()) - 1; l >= 0; --l) {
-            if (!region[l].isClosed()) {
-                region.removeAt(static_cast<unsigned long>(l));
-            }
-        }
-    }
+    return regions;
 }
 
 void putFirst(RegionList& out, Region const& region) {
@@ -143,7 +100,7 @@ void putFirst(RegionList& out, Region const& region) {
 
 // a and b are the operation's own copies.
 bool regionOperation(Region& a, Region& b, RegionList& out, RegionOp op) {
-    if (a.isEmpty() || b.isEmpty()) {
+    if (a.isEmpty() || b.isEmpty() || !internal::allFinite(a) || !internal::allFinite(b)) {
         return false;
     }
     if (disjoint(a, b)) {
@@ -168,24 +125,13 @@ bool regionOperation(Region& a, Region& b, RegionList& out, RegionOp op) {
         revertLoops(a, 1, a.len());
         revertLoops(b, 1, b.len());
     }
-    for (unsigned long i = 0; i < a.len(); ++i) {
-        for (unsigned long j = 0; j < b.len(); ++j) {
-            g_vl_break(a[static_cast<int>(i)], b[static_cast<int>(j)], 3);
-        }
-    }
-    // Union and difference classify each piece under a tolerance that suits its length; the
-    // intersection sets none, deliberately. The guard restores the tolerance at the end of
-    // the operation.
-    double const standardTol = COrxPoint3d::tol;
-    COrxPoint3dTol pieceTol;
-    COrxPoint3dTol* scoped = op == RegionOp::kSect ? nullptr : &pieceTol;
-    std::vector<int> const classesA = classify(a, b, scoped, standardTol);
-    std::vector<int> const classesB = classify(b, a, scoped, standardTol);
-
-    COrxVertexArray chain = selectPieces(a, classesA, b, classesB, op);
-    g_vl_sort(chain);
-    out = g_vll_region(g_vl_vll(chain));
-    cleanUp(out);
+    bool const counterClockwise = g_vl_area(a[0]) > 0.0;
+    internal::OverlayOp const overlay = op == RegionOp::kUnion ? internal::OverlayOp::kUnion
+                                        : op == RegionOp::kDiff
+                                            ? internal::OverlayOp::kDifference
+                                            : internal::OverlayOp::kIntersection;
+    out = groupBySense(internal::closedLoops(internal::overlayPieces(a, b, overlay)),
+                       counterClockwise);
     return true;
 }
 

@@ -5,8 +5,10 @@
 #define ORX_TESTS_REGIONS_REFERENCE_ALGORITHMS_H
 
 #include <cstdlib>
+#include <vector>
 
 #include "orx/geom/functions.h"
+#include "orx/plane_geometry/bulge_segment.h"
 #include "orx/polyline/polyline.h"
 #include "orx/regions/regions.h"
 
@@ -92,32 +94,79 @@ inline bool plainInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundar
     }
 }
 
-inline COrxVertexArray plainBool(COrxVertexArray a, COrxVertexArray b,
-                                 COrxVertexArray::boolOper op) {
-    plainBreak(a, b, 3);
-    COrxVertexArray result;
-    for (int pass = 0; pass < 2; ++pass) {
-        COrxVertexArray const& from = pass == 0 ? a : b;
-        COrxVertexArray const& other = pass == 0 ? b : a;
-        for (int k = 0; k < from.len(); ++k) {
-            COrxVertex const& s = from[k];
-            bool const in = plainInside(other, s.mid(), false);
-            bool const inOrOn = in || plainInside(other, s.mid(), true);
-            if (op == COrxVertexArray::boolUnion && !inOrOn) {
-                result.append(s);
-            } else if (op == COrxVertexArray::boolDiff && pass == 0 && !inOrOn) {
-                result.append(s);
-            } else if (op == COrxVertexArray::boolDiff && pass == 1 &&
-                       (in || (inOrOn && other.indexOf(s.reverse()) >= 0))) {
-                result.append(s.reverse());
-            } else if (op == COrxVertexArray::boolSect &&
-                       (in || (pass == 0 && inOrOn && other.indexOf(s) >= 0))) {
-                result.append(s);
+// The winding number of p over all segments, and inside by parity.
+inline bool plainInsideExact(COrxVertexArray const& vl, COrxPoint3d const& p) {
+    int winding = 0;
+    for (int k = 0; k < vl.len(); ++k) {
+        winding += ORX::g_bulg_winding(vl[k].startPoint(), vl[k].endPoint(), vl[k].bulge(), p);
+    }
+    return winding % 2 != 0;
+}
+
+// Same ends (either way round) and each midpoint within the tolerance of the other piece:
+// +1 running the same way, -1 opposite ways, 0 not coincident.
+inline int plainCoincidence(COrxVertex const& p, COrxVertex const& q) {
+    int direction = 0;
+    if (p.startPoint() == q.startPoint() && p.endPoint() == q.endPoint()) {
+        direction = 1;
+    } else if (p.startPoint() == q.endPoint() && p.endPoint() == q.startPoint()) {
+        direction = -1;
+    }
+    auto within = [](COrxVertex const& v, COrxPoint3d const& m) {
+        return ORX::g_bulg_pt_dist(v.startPoint(), v.endPoint(), v.bulge(), m) <= COrxPoint3d::tol;
+    };
+    return direction != 0 && within(q, p.mid()) && within(p, q.mid()) ? direction : 0;
+}
+
+// Chains the pieces and keeps the chains that close, each normalised.
+inline COrxVertexArray plainClosedLoops(COrxVertexArray pieces) {
+    ORX::g_vl_sort(pieces);
+    COrxVertexArray result, chain;
+    for (int k = 0; k < pieces.len(); ++k) {
+        chain.append(pieces[k]);
+        if (k + 1 == pieces.len() || pieces[k + 1].startPoint() != pieces[k].endPoint()) {
+            if (chain.norm(false).isClosed()) {
+                result += chain;
             }
+            chain = COrxVertexArray();
         }
     }
-    ORX::g_vl_sort(result);
-    return result.norm(false);
+    return result;
+}
+
+// Every piece of a against every piece of b: coincident pieces running the same way keep a's
+// copy, running opposite ways neither; the others are kept by the side of the other operand
+// their midpoint lies on. The difference works on b reversed.
+inline COrxVertexArray plainBool(COrxVertexArray a, COrxVertexArray b,
+                                 COrxVertexArray::boolOper op) {
+    if (op == COrxVertexArray::boolDiff) {
+        b.revert();
+    }
+    plainBreak(a, b, 3);
+    COrxVertexArray kept;
+    std::vector<bool> matched(static_cast<std::size_t>(b.len()), false);
+    for (int i = 0; i < a.len(); ++i) {
+        bool same = false, opposite = false;
+        for (int j = 0; j < b.len(); ++j) {
+            int const direction = plainCoincidence(a[i], b[j]);
+            same = same || direction > 0;
+            opposite = opposite || direction < 0;
+            matched[static_cast<std::size_t>(j)] =
+                matched[static_cast<std::size_t>(j)] || direction != 0;
+        }
+        bool const inside = plainInsideExact(b, a[i].mid());
+        if (same || (!opposite && (op == COrxVertexArray::boolSect ? inside : !inside))) {
+            kept.append(a[i]);
+        }
+    }
+    for (int j = 0; j < b.len(); ++j) {
+        bool const inside = plainInsideExact(a, b[j].mid());
+        if (!matched[static_cast<std::size_t>(j)] &&
+            (op == COrxVertexArray::boolUnion ? !inside : inside)) {
+            kept.append(b[j]);
+        }
+    }
+    return plainClosedLoops(kept);
 }
 
 // Bit for bit: every coordinate and bulge the same double.

@@ -22,6 +22,15 @@ Curve frameCurve(double kappa, double gamma, double sign) {
 
 }  // namespace
 
+void curvatureTerms(double bulge, double& kappa, double& gamma) {
+    // Both are unchanged when b turns into 1/b (gamma changes sign): above 1 they are
+    // written in 1/b so that b^2 cannot overflow.
+    double const b = std::fabs(bulge);
+    double const c = b <= 1.0 ? b : 1 / b;
+    kappa = 2 * c / (1 + c * c);
+    gamma = (b <= 1.0 ? 1.0 : -1.0) * (1 - c * c) / (1 + c * c);
+}
+
 ArcFrame::ArcFrame(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) : m_b(bulge) {
     double const dx = end.x - start.x, dy = end.y - start.y;
     double const chord = std::hypot(dx, dy);
@@ -34,13 +43,7 @@ ArcFrame::ArcFrame(COrxPoint3d const& start, COrxPoint3d const& end, double bulg
     m_my = start.y + dy / 2;
     m_mz = start.z + (end.z - start.z) / 2;
     m_sign = bulge < 0.0 ? -1.0 : 1.0;
-    // kappa = 2|b| / (1 + b^2) and gamma = (1 - b^2) / (1 + b^2) are unchanged when b turns
-    // into 1/b (gamma changes sign); above 1 they are written in 1/b so that b^2 cannot
-    // overflow.
-    double const c = std::fabs(bulge) <= 1.0 ? std::fabs(bulge) : 1 / std::fabs(bulge);
-    double const flip = std::fabs(bulge) <= 1.0 ? 1.0 : -1.0;
-    m_kappa = 2 * c / (1 + c * c);
-    m_gamma = flip * (1 - c * c) / (1 + c * c);
+    curvatureTerms(bulge, m_kappa, m_gamma);
 }
 
 bool ArcFrame::flat() const {

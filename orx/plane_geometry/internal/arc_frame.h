@@ -23,6 +23,10 @@ namespace internal {
 // sagitta is then less than 1e-200 of the chord, far below the resolution of any coordinate.
 constexpr double kFlatBulge = 1e-200;
 
+// The curvature of the arc in half chords, kappa = 2|b| / (1 + b^2), and gamma = (1 - b^2) /
+// (1 + b^2), written so that neither a tiny nor a huge bulge overflows.
+void curvatureTerms(double bulge, double& kappa, double& gamma);
+
 // A point in the frame, in half chords.
 struct FramePoint {
     double x;
