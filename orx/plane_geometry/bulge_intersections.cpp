@@ -63,25 +63,54 @@ void lineDirection(Segment const& line, double& wx, double& wy) {
     }
 }
 
+// Near a tangency the two meeting points of a line and a circle, or of two circles, move by
+// sqrt(2 R d) when the curves move by d: the rounding of coordinates of size X (a few units in
+// the last place, d = kRoundingShare X) then splits one touching point into two points apart
+// by far more than the tolerance, and cutting at both leaves slivers that rounding splits
+// again. Points closer than that spread are one touching point, as points closer than the
+// tolerance are; at coordinates near the origin the spread is below the tolerance.
+constexpr double kRoundingShare = 8.0 * 2.220446049250313e-16;
+
+double tangencySpread(double radius, double size) {
+    double const spread = std::sqrt(2 * radius * kRoundingShare * size);
+    return std::isfinite(spread) ? spread : 0.0;
+}
+
+double worldRadius(ArcFrame const& frame) {
+    return frame.radius() * frame.halfChord();
+}
+
 // The arc (first) against the straight segment or the other arc, in offsets from the arc's
 // chord midpoint.
 Meeting meet(ArcFrame const& arc, Segment const& other, ArcFrame const& otherFrame,
-             COrxPoint3d const& origin) {
+             COrxPoint3d const& origin, double size) {
     double const t = COrxPoint3d::tol;
     Curve const circle = arc.curveAbout(origin.x, origin.y);
     if (other.bulge == 0.0) {
         double wx = 0.0, wy = 0.0;
         lineDirection(other, wx, wy);
+        double const merge = std::fmax(t / 2, tangencySpread(worldRadius(arc), size));
         return internal::lineMeetsCurve(other.start.x - origin.x, other.start.y - origin.y, wx, wy,
-                                        circle, {t / 2, t});
+                                        circle, {merge, t});
     }
     Curve const second = otherFrame.curveAbout(origin.x, origin.y);
+    double const radius = std::fmax(worldRadius(arc), worldRadius(otherFrame));
+    internal::MeetingTolerance const tol{std::fmax(kTouchArcLength, tangencySpread(radius, size)),
+                                         t};
     // The more curved circle first, as g_aai was given it.
     bool const arcFirst = std::fabs(circle.a) * internal::curveScale(second) >=
                           std::fabs(second.a) * internal::curveScale(circle);
-    internal::MeetingTolerance const tol{kTouchArcLength, t};
     return arcFirst ? internal::circleMeetsCircle(circle, second, tol)
                     : internal::circleMeetsCircle(second, circle, tol);
+}
+
+// The largest plan coordinate of the two segments.
+double sizeOf(Segment const& a, Segment const& b) {
+    double size = 0.0;
+    for (COrxPoint3d const& p : {a.start, a.end, b.start, b.end}) {
+        size = std::fmax(size, std::fmax(std::fabs(p.x), std::fabs(p.y)));
+    }
+    return size;
 }
 
 bool segmentInters(COrxPoint3dArray& pts, Segment const& a, Segment const& b, bool extended) {
@@ -113,7 +142,7 @@ bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const&
         return !pts.isEmpty();
     }
     COrxPoint3d const origin = arc.middle();
-    Meeting const m = meet(arc, b, other, origin);
+    Meeting const m = meet(arc, b, other, origin, sizeOf(a, b));
     double const t = COrxPoint3d::tol;
     for (int k = 0; k < m.count; ++k) {
         COrxPoint3d const p(origin.x + m.x[k], origin.y + m.y[k], origin.z);

@@ -62,7 +62,12 @@ bool g_line_pt(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p)
     if (p.distanceTo(f) > COrxPoint3d::tol) {
         return false;
     }
-    return (f - a).normalize() == (b - f).normalize();
+    // The foot lies between the ends: f - a and b - f point the same way. Decided by the
+    // foot's share of b - a rather than by comparing the two unit vectors, whose directions
+    // a foot next to an end leaves with only the digits that the coordinates' size spares.
+    COrxVector3d const along = b - a;
+    double const share = sprod(p - a, along) / sprod(along, along);
+    return share >= 0.0 && share <= 1.0;
 }
 
 bool inters(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p3,

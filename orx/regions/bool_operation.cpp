@@ -9,6 +9,7 @@
 #include "orx/polyline/internal/segment_grid.h"
 #include "orx/regions/internal/indexed_polyline.h"
 #include "orx/regions/internal/overlay.h"
+#include "orx/regions/internal/pair_cutting.h"
 #include "orx/regions/internal/piece_index.h"
 
 namespace ORX {
@@ -20,36 +21,6 @@ namespace {
 // input, where a cut does not shorten the segment, from looping for ever.
 long long cutBudget(int n, int m) {
     return 8LL * (n + 1) * (m + 1) + 1024;
-}
-
-// Cuts a[i] where it meets b[j] (or where b[j] starts on its interior); true when it cut.
-bool cutFirst(COrxVertexArray& a, int i, COrxVertexArray const& b, int j, COrxPoint3dArray& pts) {
-    COrxVertex const w = a[i];
-    if (w.intersectWith(pts, b[j], COrxVertex::kSkipOwnEnds)) {
-        a.breakVertex(i, pts[0]);
-        return true;
-    }
-    COrxPoint3d const s = b[j].startPoint();
-    if (w.isPoint(s) && s != w.startPoint() && s != w.endPoint()) {
-        a.breakVertex(i, s);
-        return true;
-    }
-    return false;
-}
-
-// The same for b[j] against a[i] (points on b's own ends excluded).
-bool cutSecond(COrxVertexArray const& a, int i, COrxVertexArray& b, int j, COrxPoint3dArray& pts) {
-    COrxVertex const w = a[i];
-    if (w.intersectWith(pts, b[j], COrxVertex::kSkipOtherEnds)) {
-        b.breakVertex(j, pts[0]);
-        return true;
-    }
-    COrxPoint3d const s = w.startPoint();
-    if (b[j].isPoint(s) && s != b[j].startPoint() && s != b[j].endPoint()) {
-        b.breakVertex(j, s);
-        return true;
-    }
-    return false;
 }
 
 // Segment k was cut in two: its box and the new one after it.
@@ -72,7 +43,7 @@ bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
     internal::SegmentGrid const grid(boxB);
     internal::PieceIndex pieces(b.len());
     std::vector<int> near;
-    COrxPoint3dArray pts;
+    internal::PairCutter cutter(a, b, mode);
     for (int i = 0; i < a.len() && budget > 0; ++i) {
         grid.query(boxA[static_cast<std::size_t>(i)], near);
         for (int original : near) {
@@ -83,9 +54,9 @@ bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
                                           boxB[static_cast<std::size_t>(j)])) {
                     continue;
                 }
-                if ((mode & 1) && cutFirst(a, i, b, j, pts)) {
+                if ((mode & 1) && cutter.cutFirst(i, j)) {
                     splitBox(boxA, a, i);
-                } else if ((mode & 2) && cutSecond(a, i, b, j, pts)) {
+                } else if ((mode & 2) && cutter.cutSecond(i, j)) {
                     splitBox(boxB, b, j);
                     pieces.addPiece(original);
                 } else {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/tolerance.h"
 #include "orx/plane_geometry/bulge_segment.h"
 #include "orx/polyline/polyline.h"
 #include "orx/regions/regions.h"
@@ -32,35 +33,122 @@ inline bool plainIntersect(COrxVertexArray const& a, COrxVertexArray const& b, u
     return !pts.isEmpty();
 }
 
-inline void plainBreak(COrxVertexArray& a, COrxVertexArray& b, int mode) {
+// The moves of b's vertices onto a's, as the cutting makes them: the vertex at the start of
+// segment j (with the previous end), and the one at its end (with the next start).
+inline void plainMoveStart(COrxVertexArray& vl, int j, COrxPoint3d const& p) {
+    int const before = j > 0 ? j - 1 : vl.len() - 1;
+    if (before != j && vl[before].endPoint() == vl[j].startPoint()) {
+        vl[before].set(vl[before].startPoint(), p, vl[before].bulge());
+    }
+    vl[j].set(p, vl[j].endPoint(), vl[j].bulge());
+}
+
+inline void plainMoveEnd(COrxVertexArray& vl, int j, COrxPoint3d const& p) {
+    int const after = j + 1 < vl.len() ? j + 1 : 0;
+    if (after != j && vl[after].startPoint() == vl[j].endPoint()) {
+        vl[after].set(p, vl[after].endPoint(), vl[after].bulge());
+    }
+    vl[j].set(vl[j].startPoint(), p, vl[j].bulge());
+}
+
+inline bool plainCut(COrxVertexArray& vl, int i, COrxPoint3d const& p) {
+    int const before = vl.len();
+    vl.breakVertex(i, p);
+    return vl.len() > before;
+}
+
+// b's vertex sits exactly on a vertex of a.
+inline bool plainPinned(COrxVertexArray const& a, COrxPoint3d const& p) {
+    for (int k = 0; k < a.len(); ++k) {
+        for (COrxPoint3d const& q : {a[k].startPoint(), a[k].endPoint()}) {
+            if (q.x == p.x && q.y == p.y) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+inline bool plainNearerToStart(COrxVertex const& w, COrxPoint3d const& p) {
+    return p.distanceTo(w.startPoint()) <= p.distanceTo(w.endPoint());
+}
+
+// a[i] cut where b[j] meets it or starts on it; b's vertex moves onto the cut, or onto a's
+// nearer end where no cut is made, unless it sits on a vertex of a already.
+inline bool plainCutFirst(COrxVertexArray& a, int i, COrxVertexArray& b, int j, bool snap) {
+    COrxVertex const w = a[i];
     COrxPoint3dArray pts;
+    if (w.intersectWith(pts, b[j], COrxVertex::kSkipOwnEnds)) {
+        for (int k = 0; k < pts.len(); ++k) {
+            if (plainCut(a, i, pts[k])) {
+                COrxPoint3d const cut = a[i].endPoint();
+                if (snap && cut == b[j].startPoint() && !plainPinned(a, b[j].startPoint())) {
+                    plainMoveStart(b, j, cut);
+                } else if (snap && cut == b[j].endPoint() && !plainPinned(a, b[j].endPoint())) {
+                    plainMoveEnd(b, j, cut);
+                }
+                return true;
+            }
+        }
+    }
+    COrxPoint3d const s = b[j].startPoint();
+    if (!w.isPoint(s) || s == w.startPoint() || s == w.endPoint()) {
+        return false;
+    }
+    bool const pinned = plainPinned(a, s);
+    bool const cut = plainCut(a, i, s);
+    if (snap && !pinned) {
+        plainMoveStart(
+            b, j,
+            cut ? a[i].endPoint() : (plainNearerToStart(w, s) ? w.startPoint() : w.endPoint()));
+    }
+    return cut;
+}
+
+// b[j] cut where a[i] meets it or starts on it, at a's point exactly.
+inline bool plainCutSecond(COrxVertexArray const& a, int i, COrxVertexArray& b, int j) {
+    COrxVertex const w = a[i];
+    COrxPoint3dArray pts;
+    if (w.intersectWith(pts, b[j], COrxVertex::kSkipOtherEnds)) {
+        for (int k = 0; k < pts.len(); ++k) {
+            COrxPoint3d const target = pts[k] == w.startPoint() ? w.startPoint()
+                                       : pts[k] == w.endPoint() ? w.endPoint()
+                                                                : pts[k];
+            if (plainCut(b, j, target)) {
+                plainMoveEnd(b, j, target);
+                return true;
+            }
+        }
+    }
+    COrxPoint3d const s = w.startPoint();
+    COrxVertex const v = b[j];
+    if (!v.isPoint(s) || s == v.startPoint() || s == v.endPoint()) {
+        return false;
+    }
+    if (plainCut(b, j, s)) {
+        plainMoveEnd(b, j, s);
+        return true;
+    }
+    bool const atStart = plainNearerToStart(v, s);
+    if (!plainPinned(a, atStart ? v.startPoint() : v.endPoint())) {
+        (atStart ? plainMoveStart : plainMoveEnd)(b, j, s);
+        return false;
+    }
+    COrxPoint3dTol const finest(ORX::kMinPointTol * 2);
+    if (plainCut(b, j, s)) {
+        plainMoveEnd(b, j, s);
+        return true;
+    }
+    return false;
+}
+
+// Every pair of segments, a's outside; after a cut the pair is tested again.
+inline void plainBreak(COrxVertexArray& a, COrxVertexArray& b, int mode) {
     for (int i = 0; i < a.len(); ++i) {
         for (int j = 0; j < b.len(); ++j) {
-            COrxVertex const w = a[i];
-            if (mode & 1) {
-                if (w.intersectWith(pts, b[j], COrxVertex::kSkipOwnEnds)) {
-                    a.breakVertex(i, pts[0]);
-                    --j;
-                    continue;
-                }
-                COrxPoint3d const s = b[j].startPoint();
-                if (w.isPoint(s) && s != w.startPoint() && s != w.endPoint()) {
-                    a.breakVertex(i, s);
-                    --j;
-                    continue;
-                }
-            }
-            if (mode & 2) {
-                if (w.intersectWith(pts, b[j], COrxVertex::kSkipOtherEnds)) {
-                    b.breakVertex(j, pts[0]);
-                    --j;
-                    continue;
-                }
-                COrxPoint3d const s = w.startPoint();
-                if (b[j].isPoint(s) && s != b[j].startPoint() && s != b[j].endPoint()) {
-                    b.breakVertex(j, s);
-                    --j;
-                }
+            if (((mode & 1) && plainCutFirst(a, i, b, j, (mode & 2) != 0)) ||
+                ((mode & 2) && plainCutSecond(a, i, b, j))) {
+                --j;  // the same pair again
             }
         }
     }

@@ -4,13 +4,15 @@
 #include <cmath>
 #include <limits>
 
+#include "orx/plane_geometry/bulge_segment.h"
+
 namespace ORX {
 namespace internal {
 
 namespace {
 
-double sweepOf(COrxVertex const& v) {
-    return 4 * std::fabs(std::atan(v.bulge()));
+double angleOf(COrxVertex const& v) {
+    return 4 * std::atan(v.bulge());
 }
 
 }  // namespace
@@ -22,7 +24,7 @@ RunMerger::RunMerger(COrxVertex const& first)
       m_low(-std::numeric_limits<double>::infinity()),
       m_high(std::numeric_limits<double>::infinity()),
       m_reach(0.0),
-      m_sweep(sweepOf(first)) {
+      m_angle(angleOf(first)) {
     double const dx = first.endPoint().x - first.startPoint().x;
     double const dy = first.endPoint().y - first.startPoint().y;
     double const length = std::hypot(dx, dy);
@@ -36,14 +38,15 @@ bool RunMerger::tryAppend(COrxVertex const& next) {
     if (!continues(next)) {
         return false;
     }
-    COrxVertex const candidate = m_merged.unite(next);
-    bool const keeps = m_merged.isStraight()
-                           ? keepsStraightRun(next.startPoint(), candidate.endPoint())
-                           : keepsArcRun(next.startPoint(), candidate);
-    if (keeps) {
-        m_merged = candidate;
+    if (!m_merged.isStraight()) {
+        return appendArc(next);
     }
-    return keeps;
+    COrxVertex const candidate = m_merged.unite(next);
+    if (!keepsStraightRun(next.startPoint(), candidate.endPoint())) {
+        return false;
+    }
+    m_merged = candidate;
+    return true;
 }
 
 // Starts where the run ends, on the same line or circle; arcs are not merged when together
@@ -85,14 +88,24 @@ bool RunMerger::keepsStraightRun(COrxPoint3d const& dropped, COrxPoint3d const& 
     return true;
 }
 
-// The merged arc keeps the circle of the run's first piece, so a dropped vertex within the
-// tolerance of that circle stays within it as long as the arc only grows.
-bool RunMerger::keepsArcRun(COrxPoint3d const& dropped, COrxVertex const& candidate) {
-    double const sweep = sweepOf(candidate);
-    if (!(m_merged.lotp(dropped) == dropped && sweep > m_sweep)) {
+// The merged arc turns through the pieces' angles together; it must pass within the
+// tolerance of every vertex the run drops.
+bool RunMerger::appendArc(COrxVertex const& next) {
+    if (static_cast<int>(m_dropped.size()) + 2 > kMaxArcRun) {
         return false;
     }
-    m_sweep = sweep;
+    double const angle = m_angle + angleOf(next);
+    COrxVertex candidate(m_merged.startPoint(), next.endPoint(), std::tan(angle / 4));
+    m_dropped.push_back(next.startPoint());
+    for (COrxPoint3d const& p : m_dropped) {
+        if (!(g_bulg_pt_dist(candidate.startPoint(), candidate.endPoint(), candidate.bulge(), p) <=
+              COrxPoint3d::tol)) {
+            m_dropped.pop_back();
+            return false;
+        }
+    }
+    m_merged = candidate.setTag(m_merged.tag());
+    m_angle = angle;
     return true;
 }
 

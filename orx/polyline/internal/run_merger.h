@@ -3,17 +3,24 @@
 //
 // Comparing each next segment with the growing merged one alone lets the dropped vertices
 // drift without bound (a fine polygon of a circle would shrink to a coarse one); the run
-// therefore keeps what it needs to test all dropped vertices at once, in constant time per
-// segment: for a straight run the window of directions from its start that pass within the
-// tolerance of every dropped vertex, for an arc run the circle of its first piece, on which
-// every dropped vertex must lie, and the angle swept so far, which may only grow.
+// therefore tests every dropped vertex. A straight run keeps the window of directions from
+// its start that pass within the tolerance of every dropped vertex, so each step costs the
+// same. An arc run is merged into the arc from its start to its end that turns through the
+// sum of the pieces' angles (the circle of a short first piece, whose ends are rounded like
+// any other point, may be far off the true one), and every dropped vertex is tested against
+// it; such a run stops after kMaxArcRun pieces, which keeps the cost linear.
 #ifndef ORX_POLYLINE_INTERNAL_RUN_MERGER_H
 #define ORX_POLYLINE_INTERNAL_RUN_MERGER_H
+
+#include <vector>
 
 #include "orx/polyline/vertex.h"
 
 namespace ORX {
 namespace internal {
+
+// The most pieces of one circle merged into one arc.
+constexpr int kMaxArcRun = 256;
 
 class RunMerger {
 public:
@@ -28,15 +35,16 @@ public:
 private:
     bool continues(COrxVertex const& next) const;
     bool keepsStraightRun(COrxPoint3d const& dropped, COrxPoint3d const& end);
-    bool keepsArcRun(COrxPoint3d const& dropped, COrxVertex const& candidate);
+    bool appendArc(COrxVertex const& next);
 
     COrxVertex m_merged;
     // Straight runs: directions relative to the first segment's, in radians.
     double m_refX, m_refY;  // unit direction of the first segment
     double m_low, m_high;   // window of directions that pass every dropped vertex
     double m_reach;         // the farthest dropped vertex from the start
-    // Arc runs: the angle swept so far.
-    double m_sweep;
+    // Arc runs: the sum of the pieces' angles and the vertices the merge drops.
+    double m_angle;
+    std::vector<COrxPoint3d> m_dropped;
 };
 
 }  // namespace internal

@@ -1,0 +1,129 @@
+// What the metamorphic tests check on a result, and how a failing case is kept: its
+// operands written as a DXF drawing that `orx render` draws.
+#ifndef ORX_TESTS_REGIONS_METAMORPHIC_CHECKS_H
+#define ORX_TESTS_REGIONS_METAMORPHIC_CHECKS_H
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "shapes.h"
+
+namespace orx_test {
+
+// Every loop of a result, whichever operation made it.
+inline Region loopsOf(COrxVertexArray const& vl) {
+    return ORX::g_vl_vll(vl);
+}
+
+inline Region loopsOf(RegionList const& list) {
+    Region loops;
+    for (unsigned long r = 0; r < list.len(); ++r) {
+        for (unsigned long k = 0; k < list[static_cast<int>(r)].len(); ++k) {
+            loops.append(list[static_cast<int>(r)][static_cast<int>(k)]);
+        }
+    }
+    return loops;
+}
+
+inline double perimeter(Region const& loops) {
+    double total = 0;
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        total += loops[static_cast<int>(k)].geomLength();
+    }
+    return total;
+}
+
+inline bool allClosed(Region const& loops) {
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        if (!loops[static_cast<int>(k)].isClosed()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+struct Box {
+    COrxPoint3d lo, hi;
+    COrxVertex const* segment;
+};
+
+// The ends of s lie on both sides of t's line or circle, each farther from it than the
+// tolerance: s passes through t, not along it within rounding.
+inline bool passesThrough(COrxVertex const& s, COrxVertex const& t) {
+    bool left = false, right = false;
+    for (COrxPoint3d const& p : {s.startPoint(), s.endPoint()}) {
+        if (p.distanceTo(t.lotp(p)) > COrxPoint3d::tol) {
+            (t.orientp(p) > 0 ? left : right) = true;
+        }
+    }
+    return left && right;
+}
+
+// Two segments of the loops cross, away from their ends and deeper than the tolerance on
+// both sides (shallow crossings of nearly coincident pieces at the rounding of large
+// coordinates are not crossings of the outline): found by a sweep over the boxes in x.
+inline bool anyCrossing(Region const& loops) {
+    std::vector<Box> boxes;
+    for (unsigned long l = 0; l < loops.len(); ++l) {
+        COrxVertexArray const& loop = loops[static_cast<int>(l)];
+        for (int k = 0; k < loop.len(); ++k) {
+            Box box{pt(0, 0), pt(0, 0), &loop[k]};
+            COrxVertexArray(loop[k]).extents(box.lo, box.hi);
+            boxes.push_back(box);
+        }
+    }
+    std::sort(boxes.begin(), boxes.end(),
+              [](Box const& l, Box const& r) { return l.lo.x < r.lo.x; });
+    unsigned const flags =
+        COrxVertex::kSkipTangent | COrxVertex::kSkipOwnEnds | COrxVertex::kSkipOtherEnds;
+    double const t = COrxPoint3d::tol;
+    COrxPoint3dArray pts;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        for (std::size_t j = i + 1; j < boxes.size() && boxes[j].lo.x <= boxes[i].hi.x + t; ++j) {
+            if (boxes[j].lo.y > boxes[i].hi.y + t || boxes[j].hi.y < boxes[i].lo.y - t) {
+                continue;
+            }
+            COrxVertex const& s = *boxes[i].segment;
+            COrxVertex const& u = *boxes[j].segment;
+            if (s.intersectWith(pts, u, flags) && passesThrough(s, u) && passesThrough(u, s)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+inline void writeLoops(std::ofstream& out, Region const& loops, char const* layer) {
+    char number[32];
+    auto put = [&](int code, double value) {
+        std::snprintf(number, sizeof number, "%.17g", value);
+        out << code << "\n" << number << "\n";
+    };
+    for (unsigned long l = 0; l < loops.len(); ++l) {
+        COrxVertexArray const& loop = loops[static_cast<int>(l)];
+        out << "0\nLWPOLYLINE\n8\n" << layer << "\n90\n" << loop.len() << "\n70\n1\n";
+        for (int k = 0; k < loop.len(); ++k) {
+            put(10, loop[k].startPoint().x);
+            put(20, loop[k].startPoint().y);
+            put(42, loop[k].bulge());
+        }
+    }
+}
+
+// Writes the operands of a failing case beside the test program; returns the file name.
+inline std::string writeCase(unsigned seed, Region const& a, Region const& b) {
+    std::string const name = "metamorphic-" + std::to_string(seed) + ".dxf";
+    std::ofstream out(name);
+    out << "0\nSECTION\n2\nENTITIES\n";
+    writeLoops(out, a, "A");
+    writeLoops(out, b, "B");
+    out << "0\nENDSEC\n0\nEOF\n";
+    return name;
+}
+
+}  // namespace orx_test
+
+#endif  // ORX_TESTS_REGIONS_METAMORPHIC_CHECKS_H
