@@ -4,7 +4,11 @@
 // included angle theta: positive runs counter-clockwise seen from +Z, |bulge| = 1 is a half
 // circle, and exactly 0.0 is a straight segment (never tested with a tolerance). Centre,
 // radius, angles, length and midpoint are derived on demand; nothing derived is stored.
-// Z is carried along; the arc construction is planar.
+// Z is carried along; the arc construction is planar. Every arc quantity is computed from the
+// chord and the bulge relative to the chord (see orx/plane_geometry/bulge_segment.h), so that
+// a segment far from the origin behaves as it does near it and a tiny bulge gives its arc
+// to the digits of the chord; a bulge so small that the centre overflows (below about
+// 1e-308) makes the segment behave as its straight chord everywhere.
 //
 //     COrxVertex quarter(COrxPoint3d(1, 0, 0), COrxPoint3d(0, 1, 0), std::tan(ORX::kPi / 8));
 //     COrxPoint3d c = quarter.center();           // (0, 0, 0)
@@ -63,7 +67,8 @@ public:
     bool operator==(COrxVertex const& other) const;
     bool operator!=(COrxVertex const& other) const { return !(*this == other); }
 
-    // --- Arc quantities (false / NaN for a straight segment) ---
+    // --- Arc quantities (false / NaN for a straight segment, and for an arc whose centre
+    // overflows) ---
     // r = chord / 4 * |1/b + b|.
     bool radius(double& r) const;
     double radius() const;
@@ -109,7 +114,9 @@ public:
     COrxVertex& offset(COrxPoint3d p);
 
     // --- Point queries ---
-    // p lies on the segment (point tolerance).
+    // p lies on the segment: within COrxPoint3d::tol of an end, of a straight segment
+    // (g_line_pt), or of the arc itself (within its sweep the distance to the circle, beyond
+    // it the distance to the nearer end, so a point just before an arc's start is not on it).
     bool isPoint(COrxPoint3d const& p) const;
     // Perpendicular foot on the infinite line, or the point of the full circle in the
     // direction of p; the start point for a segment whose ends coincide.
@@ -123,12 +130,15 @@ public:
     int orientp(COrxPoint3d const& p) const;
     // Direction angle of the tangent at p in the direction of travel, in [0, 2pi).
     double wTan(COrxPoint3d const& p) const;
-    // Both straight on one line, or both arcs of one circle turning the same way.
+    // Both straight on one line, or both arcs turning the same way with each one's ends and
+    // midpoint within COrxPoint3d::tol of the other's circle (compared on the circles, since
+    // a nearly straight arc's centre is too far away to compare within the tolerance).
     bool coLinear(COrxVertex const& other) const;
 
     // --- Intersections ---
     // Replaces pts with the points where the two segments meet (see IntersectFlags), in the
-    // order found; true when some point is left.
+    // order found; true when some point is left. Line-line, line-arc and arc-arc alike are
+    // computed from the chords (g_bulg_int) rather than through the centres.
     bool intersectWith(COrxPoint3dArray& pts, COrxVertex const& other, unsigned int flags) const;
     COrxPoint3dArray intersectWith(COrxVertex const& other, unsigned int flags) const;
     // The crossing of the two chords (bulges ignored): zero or one point.

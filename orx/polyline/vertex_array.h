@@ -90,7 +90,10 @@ public:
     // The same rules for one segment.
     bool join(COrxVertex const& v, bool allowReverse);
     // Normalises: drops zero-length segments, merges consecutive segments of one line or one
-    // circle (across the seam unless keepStart), and snaps every joint to exact equality.
+    // circle (across the seam unless keepStart), and snaps every joint to exact equality. A
+    // run merges only while every vertex it drops stays within COrxPoint3d::tol of the merged
+    // segment (a run of arcs: of the arc turning through their angles together), so that
+    // merging never drifts from the polyline; a run that goes back on itself therefore stays.
     COrxVertexArray& norm(bool keepStart);
     // Parallel offset by d, positive to the right of the direction of travel.
     COrxVertexArray& offset(double d, bool bridgeGaps);

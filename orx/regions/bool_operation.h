@@ -27,18 +27,25 @@ constexpr double kRandomDirectionScale = 0.00019175345033660654;
 constexpr int kMaxRayRestarts = 100000;
 
 // The union (boolUnion), a minus b (boolDiff) or the intersection (boolSect) of two closed
-// polylines. The result may hold several closed loops one after another (g_vl_vll splits
-// them) and is empty when nothing is selected: an unknown operation, empty operands, a
-// difference of an area with itself, an intersection of disjoint areas.
+// polylines. The result holds closed loops one after another (g_vl_vll splits them), each
+// normalised; it is empty when nothing is selected: an unknown operation, empty operands, a
+// difference of an area with itself, an intersection of disjoint areas, and operands with a
+// NaN or infinite value.
 //
-// Edges the two outlines share follow fixed rules, which callers rely on: a difference keeps
-// an edge shared with opposite directions (the areas touch from outside) and drops one
-// shared in the same direction; an intersection keeps an edge shared in the same direction
-// once and drops one shared with opposite directions; a union drops every shared piece,
-// whatever the directions, so two areas sharing an outer edge in the same direction lose
-// that edge from the union (deliberate; the region operations treat shared edges by a rule
-// of their own). Shared pieces are recognised by exact segment equality, so the operands
-// must run the same way round (orient them first).
+// After g_vl_break every piece of one operand either coincides with a piece of the other
+// (the same ends, each midpoint within COrxPoint3d::tol of the other piece) or lies inside or
+// outside the other away from its ends:
+// - coincident pieces running the same way keep one copy (a's) in the union and the
+//   intersection, and both go in the difference; running opposite ways (the areas touch
+//   from outside) both go in the union and the intersection, and the difference keeps a's
+//   copy. One rule for all three operations: a shared stretch bounds the result once or not
+//   at all, so two areas that share an edge give a closed union;
+// - every other piece is kept by the side its midpoint lies on, decided exactly by the
+//   winding number (g_bulg_winding), with no tolerance band: the union keeps a's and b's
+//   pieces outside the other, the intersection those inside, the difference a's outside b
+//   and b's inside a, reversed. A band would take a piece that runs close to the other
+//   outline (a shallow crossing, a near-copy) for part of it and drop it.
+// Chains that do not close are not returned: every result is a set of closed loops.
 ORX_API COrxVertexArray g_vl_bool(COrxVertexArray a, COrxVertexArray b,
                                   COrxVertexArray::boolOper op);
 
@@ -49,8 +56,11 @@ ORX_API COrxVertexArrayEx g_vl_bool(COrxVertexArrayEx a, COrxVertexArrayEx b,
 
 // Cuts the segments of a (mode bit 1) and of b (mode bit 2) at the points where the two
 // meet, including a vertex of one touching the inside of a segment of the other, until no
-// segment of either crosses or touches the interior of a segment of the other. Always
-// returns false.
+// segment of either crosses or touches the interior of a segment of the other. Every cut is
+// made at the foot of the point on the segment (breakVertex), and a point within
+// COrxPoint3d::tol of a segment's end is no cut. With both bits set the two operands end up
+// sharing their meeting points exactly: b's vertices that lie on a move onto a's cut points
+// or onto a's nearer vertex, and b is cut at a's points themselves. Always returns false.
 ORX_API bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode);
 
 // Point in polyline by ray parity: the ray runs from p away from the midpoint of the first

@@ -31,15 +31,24 @@ ORX_API void setRefNormal(COrxVector3d const& normal);
 ORX_API int g_vll_pt_inside(COrxArrayTempl<COrxVertexArray> const& region, COrxPoint3d const& p);
 
 // Union, intersection and difference (a minus b) of two regions. False, with out untouched,
-// when either region is empty. Disjoint regions: the union gives both, a then b (true); the
-// intersection gives nothing (false, out untouched); the difference puts a into entry 0 of
-// out and returns false, meaning nothing was subtracted (reglDiff relies on it). Otherwise
-// out becomes the resulting regions and the result is true.
+// when either region is empty or holds a NaN or infinite value. Disjoint regions: the union
+// gives both, a then b (true); the intersection gives nothing (false, out untouched); the
+// difference puts a into entry 0 of out and returns false, meaning nothing was subtracted
+// (reglDiff relies on it). Otherwise out becomes the resulting regions and the result is
+// true. The union and the intersection trust the caller to give both regions the same
+// orientation; the difference orients both against refNormal() itself.
 //
-// A stretch of boundary the two regions share survives once when its two copies run the
-// same way and disappears when they run opposite ways. The union and the intersection
-// trust the caller to give both regions the same orientation; the difference orients both
-// against refNormal() itself.
+// The regions are cut where their loops meet and every piece is kept or dropped as in
+// g_vl_bool: a stretch of boundary the two share survives once when its copies run the same
+// way (the first region's copy) and disappears when they run opposite ways, in all three
+// operations alike (the difference compares them after turning b round); every other piece
+// goes by the side of the other region its midpoint lies on, decided exactly. No tolerance
+// band classifies a piece as "on" the other boundary: near-coincident and shallowly
+// crossing outlines, which drawings bring every day, would lose pieces to it and leave the
+// results open. The kept pieces are chained, and the loops that close are grouped by their
+// sense: a loop running as the outer loops is an outer loop, one running the other way a
+// hole of the smallest outer loop around it (rather than by counting containing loops,
+// which a hole touching its outer loop confuses). Results are always closed loops.
 ORX_API bool g_region_union(COrxArrayTempl<COrxVertexArray> a, COrxArrayTempl<COrxVertexArray> b,
                             COrxArrayTempl<COrxArrayTempl<COrxVertexArray>>& out);
 ORX_API bool g_region_sect(COrxArrayTempl<COrxVertexArray> a, COrxArrayTempl<COrxVertexArray> b,

@@ -89,6 +89,28 @@ TEST(DegenerateInputTest, DocumentedValuesOfOddSegments) {
     EXPECT_EQ(s[1].bulgLen(), 0.0);
 }
 
+TEST(DegenerateInputTest, ArcsIndistinguishableFromTheirChordBehaveAsTheChord) {
+    for (double bulge : {1e-9, 1e-300, 1e-310}) {
+        COrxVertex const v(pt(0, 0), pt(10, 0), bulge);
+        COrxPoint3d half;
+        ASSERT_TRUE(v.pointAtDist(half, v.bulgLen() / 2, true)) << bulge;
+        COrxPoint3dArray pts;
+        ASSERT_TRUE(v.intersectWith(pts, COrxVertex(pt(5, -1), pt(5, 1), 0.0), 0)) << bulge;
+        for (COrxPoint3d const& p : {v.mid(), half, pts[0]}) {
+            EXPECT_NEAR(p.x, 5.0, 1e-11) << bulge;
+            EXPECT_NEAR(p.y, -5 * bulge, 1e-11) << bulge;
+        }
+        EXPECT_NEAR(v.bulgLen(), 10.0, 1e-11) << bulge;
+        double along = 0;
+        ASSERT_TRUE(v.distAtPoint(along, half)) << bulge;
+        EXPECT_NEAR(along, 5.0, 1e-11) << bulge;
+    }
+    // Below the smallest normal number the centre is out of reach: no centre, as the chord.
+    COrxVertex const subnormal(pt(0, 0), pt(1, 0), 1e-310);
+    EXPECT_EQ(subnormal.bulgLen(), 1.0);
+    EXPECT_TRUE(std::isnan(subnormal.radius()));
+}
+
 TEST(DegenerateInputTest, EmptyAndDegeneratePolylines) {
     COrxVertexArray empty;
     COrxPoint3d lo(1, 2, 3), hi;
