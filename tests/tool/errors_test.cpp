@@ -72,7 +72,7 @@ TEST(OrxErrorTest, BadFileFailsWithOneLineNamingTheProblem) {
         {"json_nan_literal", "a.json", R"([{"vertices": [{"x": NaN, "y": 0}]}])",
          "a.json:1: not valid JSON"},
         {"json_overflow", "a.json", R"([{"vertices": [{"x": 1e999, "y": 0}, {"x": 1, "y": 0}]}])",
-         "a.json: not valid JSON"},
+         "a.json:1: a number out of range"},
         {"json_string_coordinate", "a.json",
          R"([{"vertices": [{"x": 0, "y": 0}, {"x": "1", "y": 0}]}])",
          "a.json: polyline 1 vertex 2: \"x\" is not a finite number"},
