@@ -232,8 +232,13 @@ VertexList readCircle(DxfEntity const& entity, DxfGroupReader const& reader) {
 
 std::optional<LooseSegment> readLine(DxfEntity const& entity, DxfGroupReader const& reader) {
     EntityFields fields(entity, reader);
-    COrxPoint3d a(fields.requiredNumber(10), fields.requiredNumber(20), fields.number(30, 0.0));
-    COrxPoint3d b(fields.requiredNumber(11), fields.requiredNumber(21), fields.number(31, 0.0));
+    COrxPoint3d a, b;
+    a.x = fields.requiredNumber(10);  // one statement each: the errors come in group order
+    a.y = fields.requiredNumber(20);
+    a.z = fields.number(30, 0.0);
+    b.x = fields.requiredNumber(11);
+    b.y = fields.requiredNumber(21);
+    b.z = fields.number(31, 0.0);
     if (a.z != b.z) {
         throw fields.error("LINE rises from z = " + shortText(a.z, 10) + " to z = " +
                            shortText(b.z, 10) + " (only lines parallel to the XY plane are read)");

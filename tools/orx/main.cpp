@@ -64,7 +64,10 @@ void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) 
         ->callback([&] { run = [] { return orxtool::runVersion(); }; });
     app.add_subcommand("help", "Print this overview")->callback([&] {
         run = [&] {
-            std::fputs(app.help().c_str(), stdout);
+            // The formatter directly: App::help would describe the chosen command, "help".
+            std::fputs(
+                app.get_formatter()->make_help(&app, "orx", CLI::AppFormatMode::Normal).c_str(),
+                stdout);
             std::puts("orx COMMAND --help describes one command.");
             return 0;
         };
