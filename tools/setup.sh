@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
   libsqlite3-dev libsystemd-dev dbus-daemon
-  libcli11-dev nlohmann-json3-dev librsvg2-bin
+  libcli11-dev nlohmann-json3-dev librsvg2-bin python3-ezdxf
   g++-mingw-w64-x86-64-posix wine64
 )
 

@@ -2,10 +2,12 @@
 // writes, and that DXF and JSON carry points and bulges through round trips unchanged.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "orx/profiles/outline.h"
 #include "tool_runner.h"
 
 namespace {
@@ -19,6 +21,43 @@ TEST(OrxVersionTest, PrintsLibraryVersionAndPlatform) {
     ToolRun run = scratch.orx({"version"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "2017.0\nLinux x86_64\n");
+}
+
+TEST(OrxVersionTest, VersionFlagAndHelpCommand) {
+    Scratch scratch;
+    ToolRun run = scratch.orx({"--version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "2017.0\n");
+    run = scratch.orx({"help"});
+    EXPECT_EQ(run.status, 0);
+    for (char const* command : {"outline", "bool", "region", "info", "offset", "convert"}) {
+        EXPECT_NE(run.out.find(std::string("  ") + command + " "), std::string::npos) << command;
+    }
+}
+
+TEST(OrxOffsetTest, OffsetsEveryPolylineOnItsLayer) {
+    Scratch scratch;
+    scratch.write("two.json", R"([
+      {"closed": true, "layer": "plate", "elevation": 4, "vertices": [{"x": 0, "y": 0},
+        {"x": 2, "y": 0}, {"x": 2, "y": 2}, {"x": 0, "y": 2}]},
+      {"closed": false, "layer": "axis", "vertices": [{"x": 0, "y": 5}, {"x": 4, "y": 5}]}])");
+    struct Case {
+        char const* distance;
+        double area;            // of the square, counter-clockwise: positive grows it
+        char const* axisStart;  // the open line moves to its right
+    };
+    Case const cases[] = {{"0.5", 9, "(0, 4.5)"}, {"-0.5", 1, "(0, 5.5)"}};
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.distance);
+        ToolRun run = scratch.orx({"offset", "two.json", "--distance", c.distance, "-o", "o.dxf"});
+        ASSERT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.out, "o.dxf: 2 polylines\n");
+        ToolRun info = scratch.orx({"info", "o.dxf"});
+        EXPECT_NEAR(regionAreaSum(info.out), c.area, 1e-9) << info.out;
+        EXPECT_NE(info.out.find("layer plate, elevation 4"), std::string::npos) << info.out;
+        EXPECT_NE(info.out.find(std::string("extents ") + c.axisStart), std::string::npos)
+            << info.out;
+    }
 }
 
 TEST(OrxInfoTest, ReportsSegmentsLengthsAreasExtentsAndRegions) {
@@ -53,11 +92,27 @@ TEST(OrxDxfTest, ReadsPolylinesAndCountsSkippedEntities) {
     Scratch scratch;
     ToolRun run = scratch.orx({"info", dataFile("square.dxf")});
     ASSERT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.err.find("square.dxf: skipped 2 entities (1 CIRCLE, 1 LINE)"), std::string::npos)
+    EXPECT_NE(run.err.find("square.dxf: skipped 2 entities (1 POINT, 1 TEXT)"), std::string::npos)
         << run.err;
     // 4 x 4 with a half disc of radius 2 on the right side.
     EXPECT_NE(run.out.find("area 22.28318531\n  extents (0, 0) - (6, 4)"), std::string::npos)
         << run.out;
+}
+
+TEST(OrxOutlineTest, ListShowsEveryCodeWithTheDemoNames) {
+    Scratch scratch;
+    ToolRun list = scratch.orx({"outline", "--list"});
+    ASSERT_EQ(list.status, 0) << list.err;
+    ToolRun help = scratch.orx({"outline", "--help"});
+    EXPECT_NE(help.out.find(list.out), std::string::npos) << help.out;
+    for (char const* line : {"    1  rectangle: d0 width, d1 height\n",
+                             "   18  pointed arch: d0 width, d1 crown height, d2 side height, d3 "
+                             "arc rise (optional)\n",
+                             "  901  polygon through coordinates: x0,y0,x1,y1,... the corners\n"}) {
+        EXPECT_NE(list.out.find(line), std::string::npos) << line;
+    }
+    EXPECT_EQ(std::count(list.out.begin(), list.out.end(), '\n'), ORX::kOutlineTableSize);
+    EXPECT_EQ(list.out.find("no description"), std::string::npos);
 }
 
 TEST(OrxDxfTest, PolylineSeenFromBelowIsMirroredIntoThePlane) {

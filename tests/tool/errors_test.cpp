@@ -72,7 +72,7 @@ TEST(OrxErrorTest, BadFileFailsWithOneLineNamingTheProblem) {
         {"json_nan_literal", "a.json", R"([{"vertices": [{"x": NaN, "y": 0}]}])",
          "a.json:1: not valid JSON"},
         {"json_overflow", "a.json", R"([{"vertices": [{"x": 1e999, "y": 0}, {"x": 1, "y": 0}]}])",
-         "a.json: not valid JSON"},
+         "a.json:1: a number out of range"},
         {"json_string_coordinate", "a.json",
          R"([{"vertices": [{"x": 0, "y": 0}, {"x": "1", "y": 0}]}])",
          "a.json: polyline 1 vertex 2: \"x\" is not a finite number"},
@@ -83,6 +83,15 @@ TEST(OrxErrorTest, BadFileFailsWithOneLineNamingTheProblem) {
          "a.json: polyline 1 \"closed\" is not true or false"},
         {"json_one_point", "a.json", R"([{"vertices": [{"x": 0, "y": 0}]}])",
          "a.json: polyline 1 has fewer than two vertices"},
+        {"json_bad_layer", "a.json",
+         R"([{"layer": "a/b", "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0}]}])",
+         "a.json: polyline 1 \"layer\" 'a/b' holds a character a layer name cannot hold"},
+        {"json_layer_not_text", "a.json",
+         R"([{"layer": 7, "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0}]}])",
+         "a.json: polyline 1 \"layer\" is not a text"},
+        {"json_elevation_not_number", "a.json",
+         R"([{"elevation": "high", "vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0}]}])",
+         "a.json: polyline 1 \"elevation\" is not a finite number"},
     };
     for (BadFile const& c : cases) {
         SCOPED_TRACE(c.name);

@@ -19,7 +19,7 @@ TEST(OrxOutlineTest, WritesTheMovedOutline) {
     ToolRun run =
         scratch.orx({"outline", "1", "--dims", "2,3", "--offset", "10,20", "-o", "r.json"});
     ASSERT_EQ(run.status, 0) << run.err;
-    json expected = json::parse(R"([{"closed": true, "vertices": [
+    json expected = json::parse(R"([{"closed": true, "layer": "0", "elevation": 0, "vertices": [
         {"x": 10.0, "y": 20.0, "bulge": 0.0}, {"x": 12.0, "y": 20.0, "bulge": 0.0},
         {"x": 12.0, "y": 23.0, "bulge": 0.0}, {"x": 10.0, "y": 23.0, "bulge": 0.0}]}])");
     EXPECT_EQ(json::parse(scratch.read("r.json")), expected);

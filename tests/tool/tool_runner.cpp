@@ -50,8 +50,9 @@ bool Scratch::exists(std::string const& name) const {
     return std::filesystem::exists(path(name));
 }
 
-ToolRun Scratch::orx(std::vector<std::string> const& args) const {
-    std::string command = "cd " + quoted(m_dir) + " && " + quoted(ORX_TOOL_PATH);
+ToolRun Scratch::orx(std::vector<std::string> const& args, std::string const& shellSetup) const {
+    std::string command = "cd " + quoted(m_dir) + " && " + shellSetup +
+                          (shellSetup.empty() ? "" : "; ") + quoted(ORX_TOOL_PATH);
     for (std::string const& arg : args) {
         command += " " + quoted(arg);
     }

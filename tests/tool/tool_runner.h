@@ -25,8 +25,9 @@ public:
     std::string read(std::string const& name) const;
     bool exists(std::string const& name) const;
 
-    // `orx` with the arguments (each passed as one word), run inside the folder.
-    ToolRun orx(std::vector<std::string> const& args) const;
+    // `orx` with the arguments (each passed as one word), run inside the folder; `shellSetup`
+    // is run by the same shell first (such as "ulimit -f 8").
+    ToolRun orx(std::vector<std::string> const& args, std::string const& shellSetup = "") const;
 
 private:
     std::string m_dir;

@@ -9,6 +9,7 @@
 #include "orx/regions/region.h"
 #include "orx/services/version.h"
 #include "region_operations.h"
+#include "safe_measures.h"
 #include "shape_info.h"
 #include "tool_error.h"
 
@@ -25,14 +26,15 @@ char const* platformName() {
 }
 
 // The first closed polyline, counter-clockwise: the boolean operation recognises shared
-// edges only between operands that run the same way round.
-COrxVertexArray firstClosed(Drawing const& drawing) {
-    for (COrxVertexArray const& polyline : drawing.polylines) {
-        if (polyline.isClosed()) {
-            COrxVertexArray loop = polyline;
-            if (!ORX::g_vl_orient(loop, COrxVector3d::kZAxis)) {
+// edges only between operands that run the same way round. `layer` becomes its layer.
+COrxVertexArray firstClosed(Drawing const& drawing, std::string& layer) {
+    for (std::size_t i = 0; i < drawing.polylines.size(); ++i) {
+        if (drawing.polylines[i].isClosed()) {
+            COrxVertexArray loop = drawing.polylines[i];
+            if (!isCounterClockwise(loop)) {
                 loop.revert();
             }
+            layer = drawing.layers[i];
             return loop;
         }
     }
@@ -57,7 +59,9 @@ COrxVertexArray::boolOper boolOperation(std::string const& name) {
     throw ToolError("unknown operation '" + name + "' (use union, diff or sect)");
 }
 
-std::vector<Region> inputRegions(Drawing const& drawing) {
+// The regions of the drawing's closed loops; `layer` becomes the layer of the first
+// region's outer loop.
+std::vector<Region> inputRegions(Drawing const& drawing, std::string& layer) {
     RegionGrouping grouping = groupRegions(drawing.polylines);
     if (grouping.regions.empty()) {
         throw ToolError(drawing.source + ": no closed loop to build a region from" +
@@ -73,11 +77,22 @@ std::vector<Region> inputRegions(Drawing const& drawing) {
     for (RegionGrouping::Entry const& entry : grouping.regions) {
         regions.push_back(entry.region);
     }
+    layer = drawing.layers[static_cast<std::size_t>(grouping.regions[0].sources[0])];
     return regions;
 }
 
+void writePicture(std::string const& path, SvgPicture const& picture) {
+    std::string text;
+    try {
+        text = picture.svg();
+    } catch (ToolError const& e) {
+        throw ToolError(path + ": " + e.what());
+    }
+    writeFileText(path, text);
+}
+
 void reportWritten(std::string const& path, std::size_t count, char const* what) {
-    std::printf("%s: %zu %s%s\n", path.c_str(), count, what, count == 1 ? "" : "s");
+    std::printf("%s: %s\n", path.c_str(), counted(count, what).c_str());
 }
 
 }  // namespace
@@ -105,32 +120,39 @@ void drawPolylines(SvgPicture& picture, std::vector<COrxVertexArray> const& poly
     }
 }
 
-void writeResult(std::string const& path, std::vector<COrxVertexArray> const& polylines) {
+std::string counted(std::size_t count, std::string const& what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+void writeResult(std::string const& path, std::vector<COrxVertexArray> const& polylines,
+                 std::vector<std::string> const& layers) {
     if (formatOf(path) == FileFormat::kUnknown) {
         throw ToolError(path +
                         ": unknown output format (the name must end in .dxf, .json or .svg)");
     }
     if (formatOf(path) != FileFormat::kSvg) {
-        writeDrawing(path, polylines);
+        writeDrawing(path, polylines, layers);
         return;
     }
-    exportLists(polylines, path);  // refuses non-finite coordinates before anything is drawn
+    exportLists(polylines, layers,
+                path);  // refuses non-finite coordinates before anything is drawn
     SvgPicture picture;
     drawPolylines(picture, polylines, Palette::colour(0), false);
-    writeFileText(path, picture.svg());
+    writePicture(path, picture);
 }
 
 int runBool(std::string const& operation, std::string const& first, std::string const& second,
             std::string const& output) {
     COrxVertexArray::boolOper op = boolOperation(operation);
-    COrxVertexArray a = firstClosed(readDrawing(first));
-    COrxVertexArray b = firstClosed(readDrawing(second));
+    std::string layer, ignored;
+    COrxVertexArray a = firstClosed(readDrawing(first), layer);
+    COrxVertexArray b = firstClosed(readDrawing(second), ignored);
     COrxArrayTempl<COrxVertexArray> loops = ORX::g_vl_vll(ORX::g_vl_bool(a, b, op));
     std::vector<COrxVertexArray> result;
     for (unsigned long i = 0; i < loops.len(); ++i) {
         result.push_back(loops[static_cast<int>(i)]);
     }
-    writeResult(output, result);
+    writeResult(output, result, std::vector<std::string>(result.size(), layer));
     reportWritten(output, result.size(), "polyline");
     return 0;
 }
@@ -138,10 +160,12 @@ int runBool(std::string const& operation, std::string const& first, std::string 
 int runRegion(std::string const& operation, std::string const& first, std::string const& second,
               std::string const& output) {
     RegionOperation op = regionOperation(operation);
-    std::vector<Region> a = inputRegions(readDrawing(first));
-    std::vector<Region> b = inputRegions(readDrawing(second));
+    std::string layer, ignored;
+    std::vector<Region> a = inputRegions(readDrawing(first), layer);
+    std::vector<Region> b = inputRegions(readDrawing(second), ignored);
     std::vector<Region> result = combineRegions(op, a, b);
-    writeResult(output, loopsOf(result));
+    std::vector<COrxVertexArray> loops = loopsOf(result);
+    writeResult(output, loops, std::vector<std::string>(loops.size(), layer));
     reportWritten(output, result.size(), "region");
     return 0;
 }
@@ -149,11 +173,16 @@ int runRegion(std::string const& operation, std::string const& first, std::strin
 int runInfo(std::string const& input) {
     Drawing drawing = readDrawing(input);
     RegionGrouping grouping = groupRegions(drawing.polylines);
-    std::printf("%s: %zu polyline%s, %zu region%s\n", input.c_str(), drawing.polylines.size(),
-                drawing.polylines.size() == 1 ? "" : "s", grouping.regions.size(),
-                grouping.regions.size() == 1 ? "" : "s");
+    std::printf("%s: %s, %s\n", input.c_str(),
+                counted(drawing.polylines.size(), "polyline").c_str(),
+                counted(grouping.regions.size(), "region").c_str());
+    if (!drawing.contents.empty()) {
+        std::printf("entities read: %s\n", drawing.contents.c_str());
+    }
     for (std::size_t i = 0; i < drawing.polylines.size(); ++i) {
-        std::fputs(polylineReport(static_cast<int>(i), drawing.polylines[i]).c_str(), stdout);
+        std::fputs(
+            polylineReport(static_cast<int>(i), drawing.polylines[i], drawing.layers[i]).c_str(),
+            stdout);
     }
     for (std::size_t r = 0; r < grouping.regions.size(); ++r) {
         std::fputs(regionReport(static_cast<int>(r), grouping.regions[r]).c_str(), stdout);
@@ -166,7 +195,7 @@ int runInfo(std::string const& input) {
 
 int runConvert(std::string const& input, std::string const& output) {
     Drawing drawing = readDrawing(input);
-    writeResult(output, drawing.polylines);
+    writeResult(output, drawing.polylines, drawing.layers);
     reportWritten(output, drawing.polylines.size(), "polyline");
     return 0;
 }
@@ -180,7 +209,7 @@ int runRender(std::vector<std::string> const& inputs, std::string const& output,
         Drawing drawing = readDrawing(inputs[i]);
         drawPolylines(picture, drawing.polylines, Palette::colour(i), markers);
     }
-    writeFileText(output, picture.svg());
+    writePicture(output, picture);
     std::printf("%s\n", output.c_str());
     return 0;
 }

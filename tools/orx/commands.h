@@ -29,6 +29,10 @@ int runRegion(std::string const& operation, std::string const& first, std::strin
 // The report of every polyline and region of the file.
 int runInfo(std::string const& input);
 
+// Every polyline of the file offset by `distance` (positive to the right of the direction
+// of travel), each on its layer.
+int runOffset(std::string const& input, std::string const& distance, std::string const& output);
+
 // The same polylines in another format (DXF, JSON or SVG).
 int runConvert(std::string const& input, std::string const& output);
 
@@ -43,8 +47,13 @@ int runDemo(std::string const& directory);
 void drawPolylines(SvgPicture& picture, std::vector<COrxVertexArray> const& polylines,
                    std::string const& colour, bool markers);
 
-// Writes the polylines as DXF or JSON, or draws them as SVG, by the file name.
-void writeResult(std::string const& path, std::vector<COrxVertexArray> const& polylines);
+// Writes the polylines as DXF or JSON, each on its layer ("0" where `layers` has none), or
+// draws them as SVG, by the file name.
+void writeResult(std::string const& path, std::vector<COrxVertexArray> const& polylines,
+                 std::vector<std::string> const& layers);
+
+// "1 segment", "2 segments".
+std::string counted(std::size_t count, std::string const& what);
 
 }  // namespace orxtool
 

@@ -1,10 +1,18 @@
 #include "drawing.h"
 
 #include <cmath>
+#include <cstring>
 
 #include "tool_error.h"
 
 namespace orxtool {
+
+namespace {
+
+// Layer names longer than this are refused: the DXF programs that read ours stop there.
+constexpr std::size_t kMaxLayerNameBytes = 255;
+
+}  // namespace
 
 COrxVertexArray toPolyline(VertexList const& list) {
     COrxVertexArray polyline;
@@ -36,10 +44,27 @@ std::vector<COrxVertexArray> splitRuns(COrxVertexArray const& polyline) {
     return runs;
 }
 
-std::vector<VertexList> toVertexLists(COrxVertexArray const& polyline) {
+std::string layerNameProblem(std::string const& name) {
+    if (name.empty()) {
+        return "is empty";
+    }
+    if (name.size() > kMaxLayerNameBytes) {
+        return "is longer than " + std::to_string(kMaxLayerNameBytes) + " bytes";
+    }
+    for (char c : name) {
+        if (static_cast<unsigned char>(c) < 0x20 || std::strchr("<>/\\\":;?*|=`", c) != nullptr) {
+            return "holds a character a layer name cannot hold (a control character or one of "
+                   "<>/\\\":;?*|=`)";
+        }
+    }
+    return {};
+}
+
+std::vector<VertexList> toVertexLists(COrxVertexArray const& polyline, std::string const& layer) {
     std::vector<VertexList> lists;
     for (COrxVertexArray const& run : splitRuns(polyline)) {
         VertexList list;
+        list.layer = layer;
         list.closed = run.isClosed();
         list.z = run[0].startPoint().z;
         for (int i = 0; i < run.len(); ++i) {
@@ -71,10 +96,12 @@ void requireFinite(std::vector<VertexList> const& lists, std::string const& file
 }
 
 std::vector<VertexList> exportLists(std::vector<COrxVertexArray> const& polylines,
+                                    std::vector<std::string> const& layers,
                                     std::string const& file) {
     std::vector<VertexList> lists;
-    for (COrxVertexArray const& polyline : polylines) {
-        for (VertexList& list : toVertexLists(polyline)) {
+    for (std::size_t i = 0; i < polylines.size(); ++i) {
+        std::string layer = i < layers.size() ? layers[i] : kDefaultLayer;
+        for (VertexList& list : toVertexLists(polylines[i], layer)) {
             lists.push_back(std::move(list));
         }
     }

@@ -1,13 +1,13 @@
-// ASCII DXF: reading and writing LWPOLYLINE entities.
+// ASCII DXF: reading polylines, lines, arcs and circles; writing polylines.
 //
-// A DXF file is a sequence of pairs of lines, a group code and its value. The tool reads the
-// ENTITIES section; of each LWPOLYLINE it takes the vertex count (90), the flags (70, bit 1 =
-// closed), the elevation (38), the points (10 starts a vertex with x, 20 gives its y), the
-// bulges (42, for the segment leaving the vertex) and the extrusion direction (210/220/230:
-// a polyline seen from below, (0, 0, -1), is mirrored into the XY plane). Every other entity
-// is skipped and counted. Writing produces the smallest file of that form: one ENTITIES
-// section, one LWPOLYLINE per vertex list on layer "0", numbers in their shortest exact text
-// so that reading them back gives the same doubles.
+// A DXF file is a sequence of pairs of lines, a group code and its value. The reader takes
+// the ENTITIES section of any version from R12 on: LWPOLYLINE and 2D POLYLINE (with its
+// VERTEX entities) as polylines with their bulges, CIRCLE as a closed loop of two half arcs,
+// and LINE and ARC as loose segments that are chained into polylines where their ends meet
+// (segment_chains.h). Each keeps its layer (8) and height (38 or 30). Other entities are
+// skipped and counted. The writer produces a complete R2000 drawing (see dxf_writer.cpp) with
+// one LWPOLYLINE per vertex list, numbers in their shortest exact text so that reading them
+// back gives the same doubles.
 #ifndef ORX_TOOL_DXF_FORMAT_H
 #define ORX_TOOL_DXF_FORMAT_H
 
@@ -20,15 +20,23 @@
 namespace orxtool {
 
 struct DxfContent {
+    // The polylines in file order, then the chains in the order of their first segments.
     std::vector<VertexList> lists;
-    // Entities that were not read, by type name ("CIRCLE" -> 2).
-    std::map<std::string, int> skipped;
+    std::map<std::string, int> read;     // entities read, by type ("LINE" -> 4)
+    std::map<std::string, int> skipped;  // entities not read, by type or reason
+    int chainedSegments = 0;             // lines and arcs ...
+    int chains = 0;                      // ... chained into this many polylines
+
+    // "4 LINE, 2 ARC, 1 CIRCLE; 6 lines and arcs chained into 2 polylines".
+    std::string summary() const;
 };
 
 // Throws ToolError "file:line: ..." for text that is not ASCII DXF, malformed or non-finite
-// numbers, a polyline with fewer than two points or a vertex count that does not match.
+// numbers, a polyline with fewer than two points, a vertex count that does not match, and
+// entities that do not lie in the XY plane.
 DxfContent readDxf(std::string const& text, std::string const& file);
 
+// The R2000 drawing of the lists, each on its layer.
 std::string writeDxf(std::vector<VertexList> const& lists);
 
 }  // namespace orxtool

@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <random>
 #include <sstream>
+#include <system_error>
 
 #include "dxf_format.h"
 #include "json_format.h"
+#include "message_text.h"
 #include "tool_error.h"
 
 namespace orxtool {
@@ -27,6 +31,21 @@ std::string lowerExtension(std::string const& path) {
     return ext;
 }
 
+// A name beside `path` for the text before it replaces the file: the same folder, so that
+// the rename is one step of the file system, and a random part, so that two runs writing
+// the same file do not share it.
+std::string temporaryBeside(std::string const& path) {
+    std::random_device random;
+    std::ostringstream name;
+    name << path << ".orx-" << std::hex << random() << ".tmp";
+    return name.str();
+}
+
+bool isFolder(std::string const& path) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(std::filesystem::path(path), ignored);
+}
+
 void reportSkipped(std::string const& path, std::map<std::string, int> const& skipped) {
     if (skipped.empty()) {
         return;
@@ -37,8 +56,10 @@ void reportSkipped(std::string const& path, std::map<std::string, int> const& sk
         total += count;
         kinds << (kinds.tellp() > 0 ? ", " : "") << count << " " << type;
     }
-    std::cerr << "orx: " << path << ": skipped " << total << (total == 1 ? " entity" : " entities")
-              << " (" << kinds.str() << ")\n";
+    std::ostringstream line;
+    line << "orx: " << path << ": skipped " << total << (total == 1 ? " entity" : " entities")
+         << " (" << kinds.str() << ")";
+    std::cerr << printableLine(line.str()) << "\n";
 }
 
 }  // namespace
@@ -58,6 +79,9 @@ FileFormat formatOf(std::string const& path) {
 }
 
 std::string readFileText(std::string const& path) {
+    if (isFolder(path)) {
+        throw ToolError(path + ": is a folder, not a file");
+    }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
         throw ToolError(path + ": cannot open the file");
@@ -70,11 +94,21 @@ std::string readFileText(std::string const& path) {
 }
 
 void writeFileText(std::string const& path, std::string const& text) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (isFolder(path)) {
+        throw ToolError(path + ": is a folder; nothing written");
+    }
+    std::string temporary = temporaryBeside(path);
+    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
     out << text;
     out.close();
-    if (!out) {
-        throw ToolError(path + ": cannot write the file");
+    std::error_code error;
+    if (out) {
+        std::filesystem::rename(std::filesystem::path(temporary), std::filesystem::path(path),
+                                error);
+    }
+    if (!out || error) {
+        std::filesystem::remove(std::filesystem::path(temporary), error);
+        throw ToolError(path + ": cannot write the file (an earlier file of this name is kept)");
     }
 }
 
@@ -85,27 +119,30 @@ Drawing readDrawing(std::string const& path) {
     }
     std::string text = readFileText(path);
     std::vector<VertexList> lists;
+    Drawing drawing;
+    drawing.source = path;
     if (format == FileFormat::kDxf) {
         DxfContent content = readDxf(text, path);
         reportSkipped(path, content.skipped);
         lists = std::move(content.lists);
+        drawing.contents = content.summary();
     } else {
         lists = readJson(text, path);
     }
-    Drawing drawing;
-    drawing.source = path;
     for (VertexList const& list : lists) {
         drawing.polylines.push_back(toPolyline(list));
+        drawing.layers.push_back(list.layer);
     }
     return drawing;
 }
 
-void writeDrawing(std::string const& path, std::vector<COrxVertexArray> const& polylines) {
+void writeDrawing(std::string const& path, std::vector<COrxVertexArray> const& polylines,
+                  std::vector<std::string> const& layers) {
     FileFormat format = formatOf(path);
     if (format != FileFormat::kDxf && format != FileFormat::kJson) {
         throw ToolError(path + ": can write only .dxf and .json files here");
     }
-    std::vector<VertexList> lists = exportLists(polylines, path);
+    std::vector<VertexList> lists = exportLists(polylines, layers, path);
     writeFileText(path, format == FileFormat::kDxf ? writeDxf(lists) : writeJson(lists));
 }
 

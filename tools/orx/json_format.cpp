@@ -4,6 +4,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "message_text.h"
 #include "tool_error.h"
 
 namespace orxtool {
@@ -16,6 +17,29 @@ std::size_t lineOfOffset(std::string const& text, std::size_t offset) {
     offset = std::min(offset, text.size());
     return 1 + static_cast<std::size_t>(std::count(text.begin(), text.begin() + offset, '\n'));
 }
+
+// The document tree of the JSON parser, which also keeps where the text went wrong: the
+// parser reports the position of a number out of range only to this handler, not in the
+// exception it would throw.
+class PositionedDomParser : public nlohmann::detail::json_sax_dom_parser<json> {
+public:
+    explicit PositionedDomParser(json& document) : json_sax_dom_parser(document, false) {}
+
+    // Hides the base's handler, which would forget the position.
+    bool parse_error(std::size_t position, std::string const& /*token*/,
+                     nlohmann::detail::exception const& error) {
+        m_position = position;
+        m_outOfRange = dynamic_cast<nlohmann::detail::out_of_range const*>(&error) != nullptr;
+        return false;
+    }
+
+    std::size_t position() const { return m_position; }
+    bool outOfRange() const { return m_outOfRange; }
+
+private:
+    std::size_t m_position = 0;
+    bool m_outOfRange = false;
+};
 
 class ListReader {
 public:
@@ -33,6 +57,15 @@ public:
             }
             list.closed = item["closed"].get<bool>();
         }
+        if (item.contains("layer")) {
+            list.layer = layer(item["layer"]);
+        }
+        if (item.contains("elevation")) {
+            if (!item["elevation"].is_number()) {
+                fail("\"elevation\" is not a finite number");
+            }
+            list.z = item["elevation"].get<double>();
+        }
         if (!item.contains("vertices") || !item["vertices"].is_array()) {
             fail("has no list \"vertices\"");
         }
@@ -47,6 +80,18 @@ public:
     }
 
 private:
+    std::string layer(json const& value) const {
+        if (!value.is_string()) {
+            fail("\"layer\" is not a text");
+        }
+        std::string name = value.get<std::string>();
+        std::string problem = layerNameProblem(name);
+        if (!problem.empty()) {
+            fail("\"layer\" " + quotedInput(name) + " " + problem);
+        }
+        return name;
+    }
+
     VertexList::Point point(json const& vertex, std::size_t index) const {
         std::string where = "vertex " + std::to_string(index);
         if (!vertex.is_object()) {
@@ -68,8 +113,7 @@ private:
             return 0.0;
         }
         json const& value = vertex[key];
-        // A number too large for a double reads as infinity; refuse it like a non-number.
-        if (!value.is_number() || !std::isfinite(value.get<double>())) {
+        if (!value.is_number()) {
             fail(where + ": \"" + key + "\" is not a finite number");
         }
         return value.get<double>();
@@ -84,13 +128,10 @@ private:
 
 std::vector<VertexList> readJson(std::string const& text, std::string const& file) {
     json document;
-    try {
-        document = json::parse(text);
-    } catch (json::parse_error const& e) {
-        throw ToolError(file + ":" + std::to_string(lineOfOffset(text, e.byte)) +
-                        ": not valid JSON");
-    } catch (json::exception const&) {
-        throw ToolError(file + ": not valid JSON (a number out of range)");
+    PositionedDomParser parser(document);
+    if (!json::sax_parse(text, &parser)) {
+        throw ToolError(file + ":" + std::to_string(lineOfOffset(text, parser.position())) +
+                        (parser.outOfRange() ? ": a number out of range" : ": not valid JSON"));
     }
     if (!document.is_array()) {
         throw ToolError(file + ": expected a list of polylines");
@@ -109,9 +150,14 @@ std::string writeJson(std::vector<VertexList> const& lists) {
         for (VertexList::Point const& p : list.points) {
             vertices.push_back({{"x", p.x}, {"y", p.y}, {"bulge", p.bulge}});
         }
-        document.push_back({{"closed", list.closed}, {"vertices", vertices}});
+        document.push_back({{"closed", list.closed},
+                            {"layer", list.layer},
+                            {"elevation", list.z},
+                            {"vertices", vertices}});
     }
-    return document.dump(1) + "\n";
+    // Layer names read from an older DXF file may hold bytes of a code page that are not
+    // UTF-8; they are replaced rather than refused.
+    return document.dump(1, ' ', false, json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace orxtool

@@ -1,12 +1,13 @@
 // JSON: the tool's own exchange form of polylines.
 //
 //     [
-//       {"closed": true,
+//       {"closed": true, "layer": "plate", "elevation": 0,
 //        "vertices": [{"x": 0, "y": 0, "bulge": 0}, {"x": 4, "y": 0, "bulge": 1}, ...]},
 //       ...
 //     ]
 //
-// A list of polylines; each has a list of vertices and a closed flag (false when absent).
+// A list of polylines; each has a list of vertices, a closed flag (false when absent), a
+// layer name ("0" when absent) and an elevation, the height of every point (0 when absent).
 // The bulge of a vertex belongs to the segment that leaves it (0 when absent): tan(theta/4)
 // of the arc's included angle, positive counter-clockwise; on the last vertex of an open
 // polyline it is 0. Numbers are written with round-trip precision.
@@ -21,7 +22,8 @@
 namespace orxtool {
 
 // Throws ToolError naming the file and the line (syntax) or the polyline and vertex (content)
-// for text that is not JSON of the form above, non-numbers and numbers out of range.
+// for text that is not JSON of the form above, non-numbers, numbers out of range and bad
+// layer names. A number too small for a double reads as 0, as the JSON parser makes it.
 std::vector<VertexList> readJson(std::string const& text, std::string const& file);
 
 std::string writeJson(std::vector<VertexList> const& lists);

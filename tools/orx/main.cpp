@@ -1,8 +1,10 @@
-// orx: the library's profile outlines, boolean operations and regions from the command line.
+// orx: the library's profile outlines, boolean operations, regions and offsets from the
+// command line.
 //
 // Every command reads DXF or JSON and writes DXF, JSON or SVG, chosen by the file name. Bad
 // input ends the program with one line on standard error that names the file and the line or
-// entity, and exit status 2; so do usage errors.
+// entity, and exit status 2; so do usage errors. The line holds printable text only and is
+// of bounded length, whatever the input held.
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
@@ -12,6 +14,9 @@
 #include <vector>
 
 #include "commands.h"
+#include "message_text.h"
+#include "orx/services/version.h"
+#include "profile_samples.h"
 #include "tool_error.h"
 
 namespace {
@@ -20,7 +25,7 @@ using orxtool::kExitBadInput;
 
 struct Arguments {
     int code = 0;
-    std::string dims, offset, operation, first, second, output, input;
+    std::string dims, offset, operation, first, second, output, input, distance;
     std::vector<std::string> inputs;
     bool markers = false;
     std::string directory = "orx-demo";
@@ -33,19 +38,41 @@ void addOperands(CLI::App* command, Arguments& args) {
     command->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
 }
 
-// Declares the commands; `run` is set to the one chosen.
-void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) {
-    app.add_subcommand("version", "Print the library version and the build's platform")
-        ->callback([&] { run = [] { return orxtool::runVersion(); }; });
-
+// `orx outline`, with the list of profile codes.
+void declareOutline(CLI::App& app, Arguments& args, std::function<int()>& run) {
     CLI::App* outline = app.add_subcommand("outline", "Write the outline of a profile code");
-    outline->add_option("CODE", args.code, "profile code (see orx demo)")->required();
+    outline->add_flag_callback(
+        "--list",
+        [] {
+            std::fputs(orxtool::profileCodeList().c_str(), stdout);
+            throw CLI::Success();
+        },
+        "print every profile code with its name and the meaning of its dimensions");
+    outline->footer("Profile codes and their dimensions:\n" + orxtool::profileCodeList());
+    outline->add_option("CODE", args.code, "profile code (see --list)")->required();
     outline->add_option("--dims", args.dims, "dimensions d0,d1,...");
     outline->add_option("--offset", args.offset, "translation X,Y");
     outline->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
     outline->callback([&] {
         run = [&] { return orxtool::runOutline(args.code, args.dims, args.offset, args.output); };
     });
+}
+
+// Declares the commands; `run` is set to the one chosen.
+void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) {
+    app.add_subcommand("version", "Print the library version and the build's platform")
+        ->callback([&] { run = [] { return orxtool::runVersion(); }; });
+    app.add_subcommand("help", "Print this overview")->callback([&] {
+        run = [&] {
+            // The formatter directly: App::help would describe the chosen command, "help".
+            std::fputs(
+                app.get_formatter()->make_help(&app, "orx", CLI::AppFormatMode::Normal).c_str(),
+                stdout);
+            std::puts("orx COMMAND --help describes one command.");
+            return 0;
+        };
+    });
+    declareOutline(app, args, run);
 
     CLI::App* boolean =
         app.add_subcommand("bool", "Combine the first closed polyline of each input");
@@ -67,6 +94,16 @@ void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) 
     CLI::App* info = app.add_subcommand("info", "Report segments, lengths, areas and regions");
     info->add_option("FILE", args.input, "input (.dxf or .json)")->required();
     info->callback([&] { run = [&] { return orxtool::runInfo(args.input); }; });
+
+    CLI::App* offset = app.add_subcommand("offset", "Offset every polyline by a distance");
+    offset->add_option("FILE", args.input, "input (.dxf or .json)")->required();
+    offset
+        ->add_option("--distance", args.distance,
+                     "offset distance, positive to the right of the direction of travel")
+        ->required();
+    offset->add_option("-o,--output", args.output, "result (.dxf, .json or .svg)")->required();
+    offset->callback(
+        [&] { run = [&] { return orxtool::runOffset(args.input, args.distance, args.output); }; });
 
     CLI::App* convert = app.add_subcommand("convert", "Write the polylines in another format");
     convert->add_option("FILE", args.input, "input (.dxf or .json)")->required();
@@ -94,37 +131,47 @@ bool isCommand(CLI::App& app, std::string const& name) {
     return false;
 }
 
+// Reports the message as the one line of a failed run.
+int fail(std::string const& message) {
+    std::fprintf(stderr, "orx: %s\n", orxtool::printableLine(message).c_str());
+    return kExitBadInput;
+}
+
+std::string versionText() {
+    char text[256];
+    std::snprintf(text, sizeof text, "%ls", ORX::version());
+    return text;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"orx: profile outlines, booleans and regions of bulge polylines"};
+    CLI::App app{"orx: profile outlines, booleans, regions and offsets of bulge polylines"};
     app.require_subcommand(1);
     // File names may start with '/' (Wine, MSYS shells); CLI11 would take them for options
     // on Windows. Set before the commands are declared, which inherit it.
     app.allow_windows_style_options(false);
     Arguments args;
     std::function<int()> run;
+    app.set_version_flag("--version", versionText(), "Print the library version and exit");
     declareCommands(app, args, run);
     if (argc > 1 && argv[1][0] != '-' && !isCommand(app, argv[1])) {
-        std::fprintf(stderr, "orx: unknown command '%s' (see orx --help)\n", argv[1]);
-        return kExitBadInput;
+        return fail("unknown command " + orxtool::quotedInput(argv[1]) + " (see orx --help)");
     }
     try {
         app.parse(argc, argv);
     } catch (CLI::ParseError const& e) {
         if (e.get_exit_code() == 0) {
-            return app.exit(e);  // --help
+            return app.exit(e);  // --help, --version, --list
         }
-        std::fprintf(stderr, "orx: %s (see orx --help)\n", e.what());
-        return kExitBadInput;
+        return fail(std::string(e.what()) + " (see orx --help)");
     }
     try {
         return run ? run() : kExitBadInput;
     } catch (orxtool::ToolError const& e) {
-        std::fprintf(stderr, "orx: %s\n", e.what());
-        return kExitBadInput;
+        return fail(e.what());
     } catch (std::exception const& e) {
-        std::fprintf(stderr, "orx: internal error: %s\n", e.what());
+        std::fprintf(stderr, "orx: internal error: %s\n", orxtool::printableLine(e.what()).c_str());
         return 1;
     }
 }

@@ -2,8 +2,11 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <string>
 #include <system_error>
 
+#include "message_text.h"
 #include "tool_error.h"
 
 namespace orxtool {
@@ -33,7 +36,15 @@ std::optional<double> parseFinite(std::string_view text) {
     double value = 0.0;
     char const* end = text.data() + text.size();
     auto [ptr, ec] = std::from_chars(text.data(), end, value);
-    if (ec != std::errc() || ptr != end || !std::isfinite(value)) {
+    if (ptr != end || (ec != std::errc() && ec != std::errc::result_out_of_range)) {
+        return std::nullopt;
+    }
+    if (ec == std::errc::result_out_of_range) {
+        // A well-formed number beyond the range: strtod tells an underflow, which reads as
+        // 0 (or the nearest tiny double), from an overflow, which gives infinity.
+        value = std::strtod(std::string(text).c_str(), nullptr);
+    }
+    if (!std::isfinite(value)) {
         return std::nullopt;
     }
     return value;
@@ -61,7 +72,7 @@ std::vector<double> parseNumberList(std::string const& text, std::string const& 
         std::string item = text.substr(start, comma == std::string::npos ? comma : comma - start);
         std::optional<double> value = parseFinite(item);
         if (!value) {
-            throw ToolError(what + ": '" + item + "' is not a finite number");
+            throw ToolError(what + ": " + quotedInput(item) + " is not a finite number");
         }
         numbers.push_back(*value);
         if (comma == std::string::npos) {

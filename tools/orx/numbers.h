@@ -12,7 +12,8 @@
 namespace orxtool {
 
 // The finite double the whole text spells (surrounding blanks and one leading '+' allowed);
-// nothing for anything else, "nan", "inf" and values out of range included.
+// nothing for anything else, "nan", "inf" and values too large included. A value too small
+// for a double ("1e-400") reads as 0, as it would in any program.
 std::optional<double> parseFinite(std::string_view text);
 
 // The integer the whole text spells (surrounding blanks allowed); nothing otherwise.

@@ -5,6 +5,7 @@
 #include "numbers.h"
 #include "orx/profiles/outline.h"
 #include "profile_samples.h"
+#include "shape_info.h"
 #include "tool_error.h"
 
 namespace orxtool {
@@ -59,8 +60,17 @@ int runOutline(int code, std::string const& dimsText, std::string const& offsetT
                         " gives no outline for these dimensions" +
                         (sample != nullptr ? " (" + describeDims(*sample, dims) + ")" : ""));
     }
-    writeResult(output, {outline});
-    std::printf("%s: profile %d, %d segments\n", output.c_str(), code, outline.len());
+    std::string problem = collapseProblem(outline);
+    if (!problem.empty()) {
+        throw ToolError("profile code " + std::to_string(code) + ": the outline " + problem +
+                        "; nothing written" +
+                        (sample != nullptr && !dims.empty()
+                             ? " (" + describeDims(*sample, dims) + ")"
+                             : " (no dimensions given)"));
+    }
+    writeResult(output, {outline}, {});
+    std::printf("%s: profile %d, %s\n", output.c_str(), code,
+                counted(static_cast<std::size_t>(outline.len()), "segment").c_str());
     return 0;
 }
 

@@ -1,6 +1,9 @@
 #include "profile_samples.h"
 
+#include <cstdio>
+
 #include "numbers.h"
+#include "orx/profiles/outline.h"
 
 namespace orxtool {
 
@@ -113,6 +116,39 @@ std::string describeDims(ProfileSample const& sample, std::vector<double> const&
         }
     }
     return text;
+}
+
+namespace {
+
+std::string dimensionMeanings(ProfileSample const& sample) {
+    if (sample.dimNames.empty()) {
+        return "x0,y0,x1,y1,... the corners";
+    }
+    std::string text;
+    for (std::size_t i = 0; i < sample.dimNames.size(); ++i) {
+        text += (i > 0 ? ", d" : "d") + std::to_string(i) + " " + sample.dimNames[i];
+        if (i >= sample.minDims) {
+            text += " (optional)";
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string profileCodeList() {
+    std::string list;
+    for (int i = 0; i < ORX::kOutlineTableSize; ++i) {
+        int code = static_cast<int>(ORX::g_outline_code(i));
+        ProfileSample const* sample = findProfileSample(code);
+        char number[16];
+        std::snprintf(number, sizeof number, "%5d  ", code);
+        list += number;
+        list += sample != nullptr ? std::string(sample->name) + ": " + dimensionMeanings(*sample)
+                                  : std::string("(no description)");
+        list += "\n";
+    }
+    return list;
 }
 
 }  // namespace orxtool

@@ -26,6 +26,10 @@ ProfileSample const* findProfileSample(int code);
 // "d0 = 200 (width), d1 = 120 (height)".
 std::string describeDims(ProfileSample const& sample, std::vector<double> const& dims);
 
+// One line per code of the library's outline table: the code, its name and what each
+// dimension means ("  27  rounded rectangle: d0 width, d1 height, d2 radius").
+std::string profileCodeList();
+
 }  // namespace orxtool
 
 #endif  // ORX_TOOL_PROFILE_SAMPLES_H

@@ -7,6 +7,7 @@
 #include "numbers.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/region_building.h"
+#include "safe_measures.h"
 
 namespace orxtool {
 
@@ -17,6 +18,11 @@ constexpr int kReportDigits = 10;
 
 std::string num(double v) {
     return shortText(v, kReportDigits);
+}
+
+// A length or an area of finite coordinates may still exceed the largest double.
+std::string measureText(double v) {
+    return std::isinf(v) ? num(v) + " (beyond the range of doubles)" : num(v);
 }
 
 // Every segment carries its polyline's index + 1 as its tag, which the region building keeps
@@ -75,7 +81,7 @@ std::vector<Region> regionsOf(std::vector<COrxVertexArray> const& polylines) {
 double regionArea(Region const& region) {
     double area = 0.0;
     for (unsigned long k = 0; k < region.len(); ++k) {
-        double loopArea = std::fabs(ORX::g_vl_area(region[static_cast<int>(k)]));
+        double loopArea = std::fabs(safeArea(region[static_cast<int>(k)]));
         area += k == 0 ? loopArea : -loopArea;
     }
     return area;
@@ -91,29 +97,47 @@ std::vector<COrxVertexArray> loopsOf(std::vector<Region> const& regions) {
     return loops;
 }
 
-std::string polylineReport(int index, COrxVertexArray const& polyline) {
+std::string polylineReport(int index, COrxVertexArray const& polyline, std::string const& layer) {
     int arcs = 0;
     for (int i = 0; i < polyline.len(); ++i) {
         arcs += polyline[i].isStraight() ? 0 : 1;
     }
     bool closed = polyline.isClosed();
     std::ostringstream out;
-    out << "polyline " << index + 1 << ": " << polyline.len() << " segments (" << arcs
+    out << "polyline " << index + 1 << ": " << polyline.len()
+        << (polyline.len() == 1 ? " segment (" : " segments (") << arcs
         << (arcs == 1 ? " arc), " : " arcs), ") << (closed ? "closed" : "open");
     if (closed) {
-        bool ccw = ORX::g_vl_orient(polyline, COrxVector3d::kZAxis);
-        out << ", " << (ccw ? "counter-clockwise" : "clockwise");
+        out << ", " << (isCounterClockwise(polyline) ? "counter-clockwise" : "clockwise");
     }
-    out << "\n  length " << num(polyline.geomLength()) << "\n";
+    out << "\n  length " << measureText(safeLength(polyline)) << "\n";
     if (closed) {
-        out << "  area " << num(ORX::g_vl_area(polyline)) << "\n";
+        out << "  area " << measureText(safeArea(polyline)) << "\n";
     }
     COrxPoint3d lo, hi;
-    if (polyline.extents(lo, hi)) {
+    if (safeExtents(polyline, lo, hi)) {
         out << "  extents (" << num(lo.x) << ", " << num(lo.y) << ") - (" << num(hi.x) << ", "
             << num(hi.y) << ")\n";
     }
+    out << "  layer " << layer << ", elevation " << num(polyline[0].startPoint().z) << "\n";
     return out.str();
+}
+
+std::string collapseProblem(COrxVertexArray const& polyline) {
+    if (polyline.isEmpty()) {
+        return "has no segment";
+    }
+    for (int i = 0; i < polyline.len(); ++i) {
+        COrxPoint3d const& a = polyline[i].startPoint();
+        COrxPoint3d const& b = polyline[i].endPoint();
+        if (a.x == b.x && a.y == b.y) {
+            return "has corners that fall onto one point (" + num(a.x) + ", " + num(a.y) + ")";
+        }
+    }
+    if (polyline.isClosed() && safeArea(polyline) == 0.0) {
+        return "encloses no area";
+    }
+    return {};
 }
 
 std::string regionReport(int index, RegionGrouping::Entry const& entry) {
@@ -125,7 +149,7 @@ std::string regionReport(int index, RegionGrouping::Entry const& entry) {
             out << (k > 1 ? ", " : "") << entry.sources[k] + 1;
         }
     }
-    out << ": area " << num(regionArea(entry.region)) << "\n";
+    out << ": area " << measureText(regionArea(entry.region)) << "\n";
     return out.str();
 }
 

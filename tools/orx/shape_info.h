@@ -38,8 +38,15 @@ double regionArea(Region const& region);
 std::vector<COrxVertexArray> loopsOf(std::vector<Region> const& regions);
 
 // The `orx info` lines of polyline `index` (0-based): segments and arcs, closed or open,
-// length, signed area and orientation (closed only), extents.
-std::string polylineReport(int index, COrxVertexArray const& polyline);
+// length, signed area and orientation (closed only), extents, layer and elevation. Measured
+// without overflow up to the largest coordinates (safe_measures.h).
+std::string polylineReport(int index, COrxVertexArray const& polyline, std::string const& layer);
+
+// Why a computed polyline is no usable shape, or an empty text when it is one: it has no
+// segment, two of its corners fell onto one point (coordinates so large that the
+// dimensions vanish in rounding, or missing dimensions), or it is closed and encloses no
+// area.
+std::string collapseProblem(COrxVertexArray const& polyline);
 
 // "region N: outer polyline A, holes B, C: area X".
 std::string regionReport(int index, RegionGrouping::Entry const& entry);

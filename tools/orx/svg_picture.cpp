@@ -6,6 +6,8 @@
 
 #include "drawing.h"
 #include "numbers.h"
+#include "safe_measures.h"
+#include "tool_error.h"
 
 namespace orxtool {
 
@@ -58,7 +60,10 @@ std::string point(COrxPoint3d const& p) {
 
 std::string arcTo(COrxVertex const& segment) {
     double b = segment.bulge();
-    double chord = segment.startPoint().distanceTo(segment.endPoint());
+    // hypot: the squares of a distance overflow above about 1e154, the distance does not.
+    COrxPoint3d const& a = segment.startPoint();
+    COrxPoint3d const& e = segment.endPoint();
+    double chord = std::hypot(e.x - a.x, e.y - a.y);
     double radius = chord / 4.0 * std::fabs(1.0 / b + b);
     if (std::fabs(b) < kBulgeDrawnStraight || !std::isfinite(radius)) {
         return " L " + point(segment.endPoint());
@@ -137,7 +142,7 @@ void SvgPicture::include(COrxPoint3d const& p) {
 
 void SvgPicture::include(COrxVertexArray const& polyline) {
     COrxPoint3d lo, hi;
-    if (polyline.extents(lo, hi)) {
+    if (safeExtents(polyline, lo, hi)) {
         include(lo);
         include(hi);
     }
@@ -182,6 +187,14 @@ SvgPicture::View SvgPicture::fitView() const {
     double h = m_hasExtents ? m_max.y - m_min.y : 0.0;
     double longer = std::max(w, h);
     double scale = longer > 0.0 ? (m_longSide - 2.0 * margin) / longer : 1.0;  // px per unit
+    // Extents wider than the largest double, or so narrow that a pixel is not a double's
+    // worth of them, have no picture; refused before any size is cast to pixels.
+    if (!std::isfinite(w) || !std::isfinite(h) || !std::isfinite(scale) ||
+        !std::isfinite(1.0 / scale)) {
+        throw ToolError("the drawing's extents (" + num(m_min.x) + ", " + num(m_min.y) + ") - (" +
+                        num(m_max.x) + ", " + num(m_max.y) +
+                        ") cannot be drawn at a finite scale; nothing written");
+    }
     View view;
     view.widthPixels = static_cast<int>(std::ceil(w * scale + 2.0 * margin));
     view.heightPixels = static_cast<int>(std::ceil(h * scale + 2.0 * margin));

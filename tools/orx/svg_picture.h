@@ -49,7 +49,8 @@ public:
     // A line of text under the drawing, broken after commas where it would not fit.
     void addCaption(std::string const& line);
 
-    // The whole SVG document. An empty picture is a small blank one.
+    // The whole SVG document. An empty picture is a small blank one. Throws ToolError when
+    // the extents cannot be drawn at a finite scale (wider than the range of doubles).
     std::string svg() const;
 
 private:

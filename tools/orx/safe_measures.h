@@ -1,0 +1,30 @@
+// Measures of polylines that stay finite up to the largest coordinates a double holds.
+//
+// Lengths, areas and orientation square coordinates on the way (a chord, a cross product),
+// so above about 1e154 they overflow to infinity and NaN. These functions measure an exact
+// copy scaled down by a power of two (which changes no digit) and scale the result back;
+// polylines of ordinary size are measured as they are, so the point tolerance keeps its
+// meaning. A result beyond the range of doubles is infinite, never NaN.
+#ifndef ORX_TOOL_SAFE_MEASURES_H
+#define ORX_TOOL_SAFE_MEASURES_H
+
+#include "orx/polyline/vertex_array.h"
+
+namespace orxtool {
+
+// The signed area (positive counter-clockwise) of a closed polyline, with the circular
+// segment of every arc; NaN for an open or empty one.
+double safeArea(COrxVertexArray const& polyline);
+
+// The length along every segment.
+double safeLength(COrxVertexArray const& polyline);
+
+// The closed polyline runs counter-clockwise seen from +Z.
+bool isCounterClockwise(COrxVertexArray const& polyline);
+
+// The tight axis-aligned box; false for an empty polyline.
+bool safeExtents(COrxVertexArray const& polyline, COrxPoint3d& lo, COrxPoint3d& hi);
+
+}  // namespace orxtool
+
+#endif  // ORX_TOOL_SAFE_MEASURES_H
