@@ -129,7 +129,7 @@ bool COrxVertexArray::extents(COrxPoint3d& min, COrxPoint3d& max) const {
         COrxVertex const& v = m_vertices[k];
         lo = ORX::p_min(ORX::p_min(lo, v.startPoint()), v.endPoint());
         hi = ORX::p_max(ORX::p_max(hi, v.startPoint()), v.endPoint());
-        ORX::internal::SegmentBox const box = ORX::internal::segmentBox(v);
+        ORX::internal::SegmentBox const box = ORX::internal::tightBox(v);
         lo = ORX::p_min(lo, COrxPoint3d(box.xmin, box.ymin, lo.z));
         hi = ORX::p_max(hi, COrxPoint3d(box.xmax, box.ymax, hi.z));
     }

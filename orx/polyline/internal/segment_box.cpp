@@ -31,35 +31,87 @@ SegmentBox widened(SegmentBox box, double margin) {
     return box;
 }
 
-bool hasNan(SegmentBox const& b) {
-    return std::isnan(b.xmin) || std::isnan(b.ymin) || std::isnan(b.xmax) || std::isnan(b.ymax);
+SegmentBox nanBox() {
+    return SegmentBox{nan(), nan(), nan(), nan()};
 }
 
-}  // namespace
-
-SegmentBox segmentBox(COrxVertex const& v) {
+// The end points' box, NaN when one is not finite.
+SegmentBox chordBox(COrxVertex const& v) {
     COrxPoint3d const& s = v.startPoint();
     COrxPoint3d const& e = v.endPoint();
     SegmentBox box{s.x, s.y, s.x, s.y};
     include(box, e);
-    if (hasNan(box) || std::isnan(e.x) || std::isnan(e.y)) {
-        return SegmentBox{nan(), nan(), nan(), nan()};
+    bool const finite = std::isfinite(box.xmin) && std::isfinite(box.ymin) &&
+                        std::isfinite(box.xmax) && std::isfinite(box.ymax);
+    return finite ? box : nanBox();
+}
+
+// How far the arc reaches beyond its chord midpoint in the direction (dx, dy) (a unit axis),
+// when that direction is one of its radial directions: (h / kappa) (1 - gamma cos delta),
+// delta the angle between it and the sagitta's direction, written as 2 sin^2(theta/4) + gamma
+// 2 sin^2(delta/2) so that a nearly straight arc does not cancel; false when the direction
+// lies outside the sweep.
+bool arcReach(COrxVertex const& v, double dx, double dy, double& reach) {
+    double const b = v.bulge();
+    double const cx = v.endPoint().x - v.startPoint().x, cy = v.endPoint().y - v.startPoint().y;
+    double const chord = std::hypot(cx, cy);
+    if (!(chord > 0.0)) {
+        return false;
     }
-    COrxPoint3d c;
-    double r = 0.0, a0 = 0.0, a1 = 0.0;
-    if (v.toArc(c, r, a0, a1)) {
-        double const sweep = g_ang(a1 - a0);
-        for (int quarter = 0; quarter < 4; ++quarter) {
-            double const direction = quarter * kHalfPi;
-            if (g_ang(direction - a0) <= sweep) {
-                include(box, polar(c, direction, r));
-            }
-        }
-        if (!std::isfinite(r)) {
-            return SegmentBox{nan(), nan(), nan(), nan()};
-        }
+    double const sign = b < 0.0 ? -1.0 : 1.0;
+    // The sagitta points right of the chord for a positive bulge.
+    double const sx = sign * cy / chord, sy = -sign * cx / chord;
+    double const delta = std::atan2(sx * dy - sy * dx, sx * dx + sy * dy);
+    double const quarter = std::atan(std::fabs(b));
+    if (std::fabs(delta) > 2 * quarter) {
+        return false;
+    }
+    double const h = chord / 2;
+    double const sinQuarter = std::sin(quarter), sinHalf = std::sin(delta / 2);
+    double const gamma = std::cos(2 * quarter);
+    double const kappa = std::sin(2 * quarter);  // 2|b| / (1 + b^2)
+    reach = h / kappa * (2 * sinQuarter * sinQuarter + gamma * 2 * sinHalf * sinHalf);
+    return std::isfinite(reach);
+}
+
+}  // namespace
+
+SegmentBox tightBox(COrxVertex const& v) {
+    SegmentBox box = chordBox(v);
+    if (v.isStraight() || std::isnan(box.xmin) || !std::isfinite(v.bulge())) {
+        return std::isfinite(v.bulge()) ? box : nanBox();
+    }
+    double const mx = (v.startPoint().x + v.endPoint().x) / 2;
+    double const my = (v.startPoint().y + v.endPoint().y) / 2;
+    double reach = 0.0;
+    if (arcReach(v, 1, 0, reach)) {
+        box.xmax = std::max(box.xmax, mx + reach);
+    }
+    if (arcReach(v, -1, 0, reach)) {
+        box.xmin = std::min(box.xmin, mx - reach);
+    }
+    if (arcReach(v, 0, 1, reach)) {
+        box.ymax = std::max(box.ymax, my + reach);
+    }
+    if (arcReach(v, 0, -1, reach)) {
+        box.ymin = std::min(box.ymin, my - reach);
     }
     return box;
+}
+
+SegmentBox segmentBox(COrxVertex const& v) {
+    double const b = v.bulge();
+    if (b == 0.0) {
+        return chordBox(v);
+    }
+    if (!(std::fabs(b) <= 1.0)) {
+        return tightBox(v);
+    }
+    SegmentBox const box = chordBox(v);
+    double const sagitta =
+        std::fabs(b) *
+        std::hypot(v.endPoint().x - v.startPoint().x, v.endPoint().y - v.startPoint().y) / 2;
+    return widened(box, sagitta);
 }
 
 double pruneMargin(SegmentBox const& box) {

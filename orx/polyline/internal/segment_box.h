@@ -23,9 +23,13 @@ struct SegmentBox {
     double ymax;
 };
 
-// The tight plan box of the segment: its end points and, for an arc, the points where it
-// reaches its extremes in x and y.
+// A plan box around the segment for skipping pairs, cheap to compute: the chord's box
+// widened by the sagitta for an arc up to a half circle (the arc lies within the sagitta of
+// its chord), the tight box for a longer arc. NaN when a value is not finite.
 SegmentBox segmentBox(COrxVertex const& v);
+// The tight plan box: the end points and, for an arc, the points where it reaches its
+// extremes in x and y.
+SegmentBox tightBox(COrxVertex const& v);
 
 // The widening that covers the tolerances of the segment functions at the current point
 // tolerance (a few of them) and the rounding of coordinates as large as the box's.

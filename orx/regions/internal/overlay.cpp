@@ -4,63 +4,148 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
+#include "orx/polyline/internal/segment_box.h"
 #include "orx/regions/bool_operation.h"
+#include "orx/regions/internal/pair_cutting.h"
+#include "orx/regions/internal/piece_loop.h"
 #include "orx/regions/internal/piece_matcher.h"
-#include "orx/regions/internal/winding_index.h"
+#include "orx/regions/internal/strip_index.h"
 
 namespace ORX {
 namespace internal {
 
 namespace {
 
-std::vector<COrxVertex const*> piecesOf(Loops const& loops) {
-    std::vector<COrxVertex const*> pieces;
-    for (unsigned long l = 0; l < loops.len(); ++l) {
-        COrxVertexArray const& loop = loops[static_cast<int>(l)];
-        for (int k = 0; k < loop.len(); ++k) {
-            pieces.push_back(&loop[k]);
+// One operand under cutting: its loops' pieces, and which original segments came near the
+// other operand.
+struct Operand {
+    explicit Operand(Loops const& loops) {
+        for (unsigned long k = 0; k < loops.len(); ++k) {
+            COrxVertexArray const& loop = loops[static_cast<int>(k)];
+            pieces.emplace_back(loop);
+            near.emplace_back(static_cast<std::size_t>(loop.len()), 0);
+            boxes.push_back(loopBox(loop));
         }
     }
-    return pieces;
+
+    static SegmentBox loopBox(COrxVertexArray const& loop) {
+        SegmentBox box{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
+        for (int k = 0; k < loop.len(); ++k) {
+            SegmentBox const s = segmentBox(loop[k]);
+            if (std::isnan(s.xmin) || std::isnan(s.ymin) || std::isnan(s.xmax) ||
+                std::isnan(s.ymax)) {
+                return s;
+            }
+            box = {std::fmin(box.xmin, s.xmin), std::fmin(box.ymin, s.ymin),
+                   std::fmax(box.xmax, s.xmax), std::fmax(box.ymax, s.ymax)};
+        }
+        return box;
+    }
+
+    // The pieces near the other operand (all pieces when `all`), loop by loop in polyline
+    // order.
+    std::vector<COrxVertex const*> piecesNear(bool all) const {
+        std::vector<COrxVertex const*> list;
+        for (std::size_t l = 0; l < pieces.size(); ++l) {
+            PieceLoop const& loop = pieces[l];
+            if (loop.size() == 0) {
+                continue;
+            }
+            int r = 0;
+            do {
+                if (all || near[l][static_cast<std::size_t>(loop.origin(r))]) {
+                    list.push_back(&loop.piece(r));
+                }
+                r = loop.next(r);
+            } while (r != 0);
+        }
+        return list;
+    }
+
+    std::vector<PieceLoop> pieces;
+    std::vector<std::vector<char>> near;  // per loop, per original segment
+    std::vector<SegmentBox> boxes;        // per loop
+};
+
+void cutAll(Operand& a, Operand& b) {
+    for (std::size_t i = 0; i < a.pieces.size(); ++i) {
+        for (std::size_t j = 0; j < b.pieces.size(); ++j) {
+            if (mayOverlap(a.boxes[i], b.boxes[j])) {
+                cutOperands(a.pieces[i], b.pieces[j], 3, &a.near[i], &b.near[j]);
+            }
+        }
+    }
 }
 
-bool keepsFirst(OverlayOp op, bool insideOther) {
-    return op == OverlayOp::kIntersection ? insideOther : !insideOther;
+bool keeps(OverlayOp op, bool first, bool insideOther) {
+    if (op == OverlayOp::kIntersection) {
+        return insideOther;
+    }
+    if (op == OverlayOp::kUnion) {
+        return !insideOther;
+    }
+    return first ? !insideOther : insideOther;
 }
 
-bool keepsSecond(OverlayOp op, bool insideOther) {
-    return op == OverlayOp::kUnion ? !insideOther : insideOther;
+// Walks the pieces of every loop in order and hands each to decide(piece, near, insideOther) with
+// the side of the other operand its midpoint lies on: tested for a piece near the other
+// operand and for the first of a run of pieces away from it, taken over for the rest of the
+// run.
+template <class Decide>
+void classify(Operand const& from, StripIndex const& other, Decide decide) {
+    for (std::size_t l = 0; l < from.pieces.size(); ++l) {
+        PieceLoop const& loop = from.pieces[l];
+        if (loop.size() == 0) {
+            continue;
+        }
+        bool haveRun = false, runInside = false;
+        int r = 0;
+        do {
+            COrxVertex const& piece = loop.piece(r);
+            bool const near = from.near[l][static_cast<std::size_t>(loop.origin(r))] != 0;
+            bool inside = false;
+            if (near || !haveRun) {
+                inside = other.winding(piece.mid()) % 2 != 0;
+            } else {
+                inside = runInside;
+            }
+            haveRun = !near;
+            runInside = inside;
+            decide(piece, near, inside);
+            r = loop.next(r);
+        } while (r != 0);
+    }
 }
 
 }  // namespace
 
-COrxVertexArray overlayPieces(Loops& a, Loops& b, OverlayOp op) {
-    for (unsigned long i = 0; i < a.len(); ++i) {
-        for (unsigned long j = 0; j < b.len(); ++j) {
-            g_vl_break(a[static_cast<int>(i)], b[static_cast<int>(j)], 3);
-        }
-    }
-    std::vector<COrxVertex const*> const piecesA = piecesOf(a);
-    std::vector<COrxVertex const*> const piecesB = piecesOf(b);
-    PieceMatcher const matcher(piecesB);
-    std::vector<bool> matchedB(piecesB.size(), false);
-    WindingIndex const areaA(a), areaB(b);
+COrxVertexArray overlayPieces(Loops const& loopsA, Loops const& loopsB, OverlayOp op) {
+    Operand a(loopsA), b(loopsB);
+    cutAll(a, b);
+    StripIndex const areaA(a.piecesNear(true)), areaB(b.piecesNear(true));
+    std::vector<COrxVertex const*> const nearB = b.piecesNear(false);
+    PieceMatcher const matcher(nearB);
+    std::vector<char> matched(nearB.size(), 0);
     COrxVertexArray kept;
-    for (COrxVertex const* piece : piecesA) {
+    classify(a, areaB, [&](COrxVertex const& piece, bool near, bool inside) {
         bool same = false, opposite = false;
-        matcher.forEachMatch(*piece, [&](int k, int direction) {
-            matchedB[static_cast<std::size_t>(k)] = true;
-            (direction > 0 ? same : opposite) = true;
-        });
-        if (same || (!opposite && keepsFirst(op, areaB.inside(piece->mid())))) {
-            kept.append(*piece);
+        if (near) {
+            matcher.forEachMatch(piece, [&](int k, int direction) {
+                matched[static_cast<std::size_t>(k)] = 1;
+                (direction > 0 ? same : opposite) = true;
+            });
         }
-    }
-    for (std::size_t k = 0; k < piecesB.size(); ++k) {
-        if (!matchedB[k] && keepsSecond(op, areaA.inside(piecesB[k]->mid()))) {
-            kept.append(*piecesB[k]);
+        if (same || (!opposite && keeps(op, true, inside))) {
+            kept.append(piece);
         }
-    }
+    });
+    std::size_t nearIndex = 0;
+    classify(b, areaA, [&](COrxVertex const& piece, bool near, bool inside) {
+        bool const wasMatched = near && matched[nearIndex++] != 0;
+        if (!wasMatched && keeps(op, false, inside)) {
+            kept.append(piece);
+        }
+    });
     return kept;
 }
 

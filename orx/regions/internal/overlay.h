@@ -28,9 +28,12 @@ using Loops = COrxArrayTempl<COrxVertexArray>;
 
 enum class OverlayOp { kUnion, kDifference, kIntersection };
 
-// Cuts every loop of a against every loop of b (g_vl_break), then returns the kept pieces:
-// a's in loop order, then b's.
-COrxVertexArray overlayPieces(Loops& a, Loops& b, OverlayOp op);
+// Cuts every loop of a against every loop of b whose boxes overlap (as g_vl_break), then
+// returns the kept pieces: a's in loop order, then b's. The classification gives the answer
+// of testing every piece on its own, but tests only the pieces near the other operand one by
+// one: a run of pieces that stay away from the other operand lies on one side of it, so the
+// first piece of the run answers for all.
+COrxVertexArray overlayPieces(Loops const& a, Loops const& b, OverlayOp op);
 
 // Chains pieces head to tail (g_vl_sort) and returns the chains that close, each normalised
 // with norm(false); a chain that does not close is left out, so that a result is always a

@@ -1,55 +1,22 @@
 #include "orx/regions/internal/pair_cutting.h"
 
-#include <cstring>
+#include <cmath>
 #include <functional>
 
 #include "orx/geom/tolerance.h"
+#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/internal/segment_grid.h"
 
 namespace ORX {
 namespace internal {
 
 namespace {
 
-// Breaks vl[i] at the foot of p; true, with the cut point, when it did (not within the
-// tolerance of an end).
-bool cutAt(COrxVertexArray& vl, int i, COrxPoint3d const& p, COrxPoint3d& cut) {
-    int const before = vl.len();
-    vl.breakVertex(i, p);
-    if (vl.len() == before) {
-        return false;
-    }
-    cut = vl[i].endPoint();
-    return true;
-}
-
-// The same however near an end the foot lies (under the smallest point tolerance).
-bool cutAnywhere(COrxVertexArray& vl, int i, COrxPoint3d const& p) {
-    COrxPoint3dTol const finest(kMinPointTol * 2);
-    COrxPoint3d cut;
-    return cutAt(vl, i, p, cut);
-}
-
-// Moves the vertex where segment j starts to p, with the end of the segment before it
-// (cyclically) when the two met there.
-void moveStart(COrxVertexArray& vl, int j, COrxPoint3d const& p) {
-    int const before = j > 0 ? j - 1 : vl.len() - 1;
-    COrxVertex& v = vl[j];
-    COrxVertex& previous = vl[before];
-    if (before != j && previous.endPoint() == v.startPoint()) {
-        previous.set(previous.startPoint(), p, previous.bulge());
-    }
-    v.set(p, v.endPoint(), v.bulge());
-}
-
-// Moves the vertex where segment j ends to p, with the start of the next one.
-void moveEnd(COrxVertexArray& vl, int j, COrxPoint3d const& p) {
-    int const after = j + 1 < vl.len() ? j + 1 : 0;
-    COrxVertex& v = vl[j];
-    COrxVertex& next = vl[after];
-    if (after != j && next.startPoint() == v.endPoint()) {
-        next.set(p, next.endPoint(), next.bulge());
-    }
-    v.set(v.startPoint(), p, v.bulge());
+// The cutting loop tests a pair again after every cut; on real input the number of cuts is
+// bounded by the meeting points. This budget (far above that) only keeps degenerate input,
+// where a cut does not shorten the segment, from looping for ever.
+long long cutBudget(int n, int m) {
+    return 8LL * (n + 1) * (m + 1) + 1024;
 }
 
 bool nearerToStart(COrxVertex const& w, COrxPoint3d const& p) {
@@ -64,6 +31,23 @@ COrxPoint3d onEndOf(COrxVertex const& w, COrxPoint3d const& p) {
     return p == w.endPoint() ? w.endPoint() : p;
 }
 
+// The box of each original segment: of all its pieces, when an earlier cutting (against
+// another loop) has cut it already.
+std::vector<SegmentBox> originalBoxes(PieceLoop const& loop) {
+    std::vector<SegmentBox> boxes;
+    boxes.reserve(static_cast<std::size_t>(loop.originals()));
+    for (int o = 0; o < loop.originals(); ++o) {
+        SegmentBox box = segmentBox(loop.piece(o));
+        for (int r = loop.next(o); r != loop.endOf(o); r = loop.next(r)) {
+            SegmentBox const more = segmentBox(loop.piece(r));
+            box = {std::fmin(box.xmin, more.xmin), std::fmin(box.ymin, more.ymin),
+                   std::fmax(box.xmax, more.xmax), std::fmax(box.ymax, more.ymax)};
+        }
+        boxes.push_back(box);
+    }
+    return boxes;
+}
+
 }  // namespace
 
 std::size_t PairCutter::PlanHash::operator()(Plan const& p) const {
@@ -71,11 +55,11 @@ std::size_t PairCutter::PlanHash::operator()(Plan const& p) const {
     return std::hash<double>()(p.first + 0.0) * 31 + std::hash<double>()(p.second + 0.0);
 }
 
-PairCutter::PairCutter(COrxVertexArray& a, COrxVertexArray& b, int mode)
+PairCutter::PairCutter(PieceLoop& a, PieceLoop& b, int mode)
     : m_a(a), m_b(b), m_snap((mode & 2) != 0) {
-    for (int k = 0; k < a.len(); ++k) {
-        pin(a[k].startPoint());
-        pin(a[k].endPoint());
+    for (int r = 0; r < a.size(); ++r) {
+        pin(a.piece(r).startPoint());
+        pin(a.piece(r).endPoint());
     }
 }
 
@@ -87,78 +71,162 @@ void PairCutter::pin(COrxPoint3d const& p) {
     m_aVertices.insert(Plan(p.x, p.y));
 }
 
-// After a cut of a at `cut` near an end of b[j], that end of b moves onto it.
-void PairCutter::snapEndOnto(int j, COrxPoint3d const& cut) {
-    COrxVertex const& v = m_b[j];
+// Moves the vertex where piece q of b starts to p, with the end of the piece before it when
+// the two met there.
+void PairCutter::moveStart(int q, COrxPoint3d const& p) {
+    int const before = m_b.previous(q);
+    COrxVertex& v = m_b.piece(q);
+    COrxVertex& previous = m_b.piece(before);
+    if (before != q && previous.endPoint() == v.startPoint()) {
+        previous.set(previous.startPoint(), p, previous.bulge());
+    }
+    v.set(p, v.endPoint(), v.bulge());
+}
+
+// Moves the vertex where piece q ends to p, with the start of the next one.
+void PairCutter::moveEnd(int q, COrxPoint3d const& p) {
+    int const after = m_b.next(q);
+    COrxVertex& v = m_b.piece(q);
+    COrxVertex& next = m_b.piece(after);
+    if (after != q && next.startPoint() == v.endPoint()) {
+        next.set(p, next.endPoint(), next.bulge());
+    }
+    v.set(v.startPoint(), p, v.bulge());
+}
+
+// After a cut of a at `cut` near an end of piece q of b, that end of b moves onto it.
+void PairCutter::snapEndOnto(int q, COrxPoint3d const& cut) {
+    COrxVertex const& v = m_b.piece(q);
     if (cut == v.startPoint() && !pinned(v.startPoint())) {
-        moveStart(m_b, j, cut);
+        moveStart(q, cut);
     } else if (cut == v.endPoint() && !pinned(v.endPoint())) {
-        moveEnd(m_b, j, cut);
+        moveEnd(q, cut);
     }
 }
 
-bool PairCutter::cutFirst(int i, int j) {
-    COrxVertex const w = m_a[i];
-    COrxPoint3d cut;
-    if (w.intersectWith(m_pts, m_b[j], COrxVertex::kSkipOwnEnds)) {
+bool PairCutter::cutFirst(int r, int q) {
+    COrxVertex const w = m_a.piece(r);
+    int added = 0;
+    if (w.intersectWith(m_pts, m_b.piece(q), COrxVertex::kSkipOwnEnds)) {
         for (int k = 0; k < m_pts.len(); ++k) {
-            if (cutAt(m_a, i, m_pts[k], cut)) {
+            if (m_a.cut(r, m_pts[k], added)) {
+                COrxPoint3d const cut = m_a.piece(r).endPoint();
                 pin(cut);
                 if (m_snap) {
-                    snapEndOnto(j, cut);
+                    snapEndOnto(q, cut);
                 }
                 return true;
             }
         }
     }
-    COrxPoint3d const s = m_b[j].startPoint();
+    COrxPoint3d const s = m_b.piece(q).startPoint();
     if (!w.isPoint(s) || s == w.startPoint() || s == w.endPoint()) {
         return false;
     }
-    bool const cutIt = cutAt(m_a, i, s, cut);
+    bool const cutIt = m_a.cut(r, s, added);
     if (cutIt) {
-        pin(cut);
+        pin(m_a.piece(r).endPoint());
     }
     if (m_snap && !pinned(s)) {
-        moveStart(m_b, j, cutIt ? cut : nearerToStart(w, s) ? w.startPoint() : w.endPoint());
+        moveStart(q, cutIt ? m_a.piece(r).endPoint()
+                           : (nearerToStart(w, s) ? w.startPoint() : w.endPoint()));
     }
     return cutIt;
 }
 
-bool PairCutter::cutSecond(int i, int j) {
-    COrxVertex const w = m_a[i];
-    COrxPoint3d cut;
-    if (w.intersectWith(m_pts, m_b[j], COrxVertex::kSkipOtherEnds)) {
+// Cuts piece q of b at the foot of p, then puts the cut exactly on p.
+bool PairCutter::cutSecondAt(int q, COrxPoint3d const& p, bool anywhere) {
+    int added = 0;
+    bool cut = false;
+    if (anywhere) {
+        COrxPoint3dTol const finest(kMinPointTol * 2);
+        cut = m_b.cut(q, p, added);
+    } else {
+        cut = m_b.cut(q, p, added);
+    }
+    if (cut) {
+        moveEnd(q, p);
+    }
+    return cut;
+}
+
+bool PairCutter::cutSecond(int r, int q) {
+    COrxVertex const w = m_a.piece(r);
+    if (w.intersectWith(m_pts, m_b.piece(q), COrxVertex::kSkipOtherEnds)) {
         for (int k = 0; k < m_pts.len(); ++k) {
-            COrxPoint3d const target = onEndOf(w, m_pts[k]);
-            if (cutAt(m_b, j, target, cut)) {
-                moveEnd(m_b, j, target);
+            if (cutSecondAt(q, onEndOf(w, m_pts[k]), false)) {
                 return true;
             }
         }
     }
     COrxPoint3d const s = w.startPoint();
-    COrxVertex const v = m_b[j];
+    COrxVertex const v = m_b.piece(q);
     if (!v.isPoint(s) || s == v.startPoint() || s == v.endPoint()) {
         return false;
     }
-    if (cutAt(m_b, j, s, cut)) {
-        moveEnd(m_b, j, s);
+    if (cutSecondAt(q, s, false)) {
         return true;
     }
-    // The foot lies within the tolerance of an end of b[j]: that vertex of b moves onto s,
+    // The foot lies within the tolerance of an end of q: that vertex of b moves onto s,
     // unless it sits on another vertex of a already; then b is cut at s after all.
     bool const atStart = nearerToStart(v, s);
-    COrxPoint3d const& end = atStart ? v.startPoint() : v.endPoint();
-    if (!pinned(end)) {
-        (atStart ? moveStart : moveEnd)(m_b, j, s);
+    if (!pinned(atStart ? v.startPoint() : v.endPoint())) {
+        if (atStart) {
+            moveStart(q, s);
+        } else {
+            moveEnd(q, s);
+        }
         return false;
     }
-    if (cutAnywhere(m_b, j, s)) {
-        moveEnd(m_b, j, s);
-        return true;
+    return cutSecondAt(q, s, true);
+}
+
+void cutOperands(PieceLoop& a, PieceLoop& b, int mode, std::vector<char>* nearA,
+                 std::vector<char>* nearB) {
+    std::vector<SegmentBox> const boxesA = originalBoxes(a);
+    std::vector<SegmentBox> const boxesB = originalBoxes(b);
+    SegmentGrid const grid(boxesB);
+    PairCutter cutter(a, b, mode);
+    long long budget = cutBudget(a.originals(), b.originals());
+    std::vector<int> candidates;
+    for (int o = 0; o < a.originals() && budget > 0; ++o) {
+        SegmentBox const& box = boxesA[static_cast<std::size_t>(o)];
+        grid.query(box, candidates);
+        std::size_t kept = 0;
+        for (int c : candidates) {
+            if (mayOverlap(box, boxesB[static_cast<std::size_t>(c)])) {
+                candidates[kept++] = c;
+            }
+        }
+        candidates.resize(kept);
+        if (candidates.empty()) {
+            continue;
+        }
+        if (nearA != nullptr) {
+            (*nearA)[static_cast<std::size_t>(o)] = 1;
+        }
+        // Every piece of this segment (the list grows as it is cut) against every piece of
+        // the candidates, in the order of the plain loop.
+        for (int r = o; budget > 0; r = a.next(r)) {
+            for (int c : candidates) {
+                if (nearB != nullptr) {
+                    (*nearB)[static_cast<std::size_t>(c)] = 1;
+                }
+                for (int q = c; budget > 0; q = b.next(q)) {
+                    while (budget > 0 && (((mode & 1) && cutter.cutFirst(r, q)) ||
+                                          ((mode & 2) && cutter.cutSecond(r, q)))) {
+                        --budget;  // the same pair again
+                    }
+                    if (b.next(q) == b.endOf(c)) {
+                        break;
+                    }
+                }
+            }
+            if (a.next(r) == a.endOf(o)) {
+                break;
+            }
+        }
     }
-    return false;
 }
 
 }  // namespace internal

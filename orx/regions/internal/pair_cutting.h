@@ -1,5 +1,9 @@
-// One step of the mutual cutting of two polylines: a segment pair is tested, and one of the
-// two segments is cut where the other meets it.
+// The mutual cutting of two polylines, pair of segments by pair of segments.
+//
+// Each pair is tested as the plain loop over all pairs tests it (the first polyline's
+// segments outside, in order, the second's inside, a pair tested again after every cut), but
+// only pairs whose boxes overlap are visited: no other pair can meet or touch, so the result
+// is the same. The pieces are kept in linked lists, so a cut moves nothing.
 //
 // Besides cutting, the second polyline's vertices are brought onto the first one's where the
 // two meet, so that the operands share their meeting points exactly and their common pieces
@@ -15,24 +19,31 @@
 
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "orx/geom/point_array.h"
-#include "orx/polyline/vertex_array.h"
+#include "orx/regions/internal/piece_loop.h"
 
 namespace ORX {
 namespace internal {
 
+// Cuts a (mode bit 1) and b (mode bit 2) where they meet; b's vertices move only when b is
+// cut too. When given, nearA and nearB (one entry per original segment) are set where a
+// segment's box overlaps one of the other polyline's: the segments that can meet or come
+// near it. A segment left unmarked lies farther than the boxes' margin from the other.
+void cutOperands(PieceLoop& a, PieceLoop& b, int mode, std::vector<char>* nearA,
+                 std::vector<char>* nearB);
+
 class PairCutter {
 public:
-    // Cuts a (mode bit 1) and b (mode bit 2); b's vertices move only when b is cut too.
-    PairCutter(COrxVertexArray& a, COrxVertexArray& b, int mode);
+    PairCutter(PieceLoop& a, PieceLoop& b, int mode);
 
-    // Cuts a[i] where b[j] crosses or touches it, or where b[j] starts on its interior;
-    // true when a[i] was cut.
-    bool cutFirst(int i, int j);
-    // Cuts b[j] where a[i] crosses or touches it, or where a[i] starts on it, at a's point
-    // exactly; true when b[j] was cut.
-    bool cutSecond(int i, int j);
+    // Cuts piece r of a where piece q of b crosses or touches it, or where q starts on its
+    // interior; true when r was cut.
+    bool cutFirst(int r, int q);
+    // Cuts piece q of b where piece r of a crosses or touches it, or where r starts on it, at
+    // a's point exactly; true when q was cut.
+    bool cutSecond(int r, int q);
 
 private:
     using Plan = std::pair<double, double>;
@@ -41,10 +52,13 @@ private:
     };
     bool pinned(COrxPoint3d const& p) const;
     void pin(COrxPoint3d const& p);
-    void snapEndOnto(int j, COrxPoint3d const& cut);
+    void snapEndOnto(int q, COrxPoint3d const& cut);
+    void moveStart(int q, COrxPoint3d const& p);
+    void moveEnd(int q, COrxPoint3d const& p);
+    bool cutSecondAt(int q, COrxPoint3d const& p, bool anywhere);
 
-    COrxVertexArray& m_a;
-    COrxVertexArray& m_b;
+    PieceLoop& m_a;
+    PieceLoop& m_b;
     bool m_snap;
     std::unordered_set<Plan, PlanHash> m_aVertices;  // a's vertices, exactly
     COrxPoint3dArray m_pts;

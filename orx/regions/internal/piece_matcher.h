@@ -27,7 +27,8 @@ public:
     // Keeps references: the pieces must outlive the matcher and stay unchanged.
     explicit PieceMatcher(std::vector<COrxVertex const*> pieces);
 
-    // Calls found(index, direction) for every piece that coincides with p.
+    // Calls found(index, direction) for every piece that coincides with p (index into the
+    // list the matcher was made from).
     template <class Found>
     void forEachMatch(COrxVertex const& p, Found found) const {
         std::vector<int> near;

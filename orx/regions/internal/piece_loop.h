@@ -1,0 +1,55 @@
+// A polyline while it is being cut: its pieces in a linked list, so that a cut adds a piece
+// after the one it splits without moving the rest, and the pieces of each original segment
+// stay together and in order.
+//
+// Pieces are numbered in the order they were made: the first n are the original segments,
+// every cut appends one. next()/previous() run through the polyline in its order, cyclically.
+#ifndef ORX_REGIONS_INTERNAL_PIECE_LOOP_H
+#define ORX_REGIONS_INTERNAL_PIECE_LOOP_H
+
+#include <vector>
+
+#include "orx/polyline/vertex_array.h"
+
+namespace ORX {
+namespace internal {
+
+class PieceLoop {
+public:
+    explicit PieceLoop(COrxVertexArray const& vl);
+
+    int originals() const { return m_originals; }
+    // The piece that comes after / before piece r in the polyline (cyclically).
+    int next(int r) const { return m_next[static_cast<std::size_t>(r)]; }
+    int previous(int r) const { return m_previous[static_cast<std::size_t>(r)]; }
+    // The first piece of the next original segment (or the first piece, after the last one):
+    // the pieces of original o run from o up to, not including, this one.
+    int endOf(int o) const { return o + 1 < m_originals ? o + 1 : 0; }
+
+    // The original segment piece r was cut from.
+    int origin(int r) const { return m_origin[static_cast<std::size_t>(r)]; }
+    int size() const { return static_cast<int>(m_pieces.size()); }
+
+    COrxVertex& piece(int r) { return m_pieces[static_cast<std::size_t>(r)]; }
+    COrxVertex const& piece(int r) const { return m_pieces[static_cast<std::size_t>(r)]; }
+
+    // Cuts piece r at the foot of p (COrxVertexArray::breakVertex): r keeps the part up to the
+    // cut, a new piece after it the rest. False, nothing changed, when breakVertex would not
+    // cut; else true with the new piece's number.
+    bool cut(int r, COrxPoint3d const& p, int& added);
+
+    // The pieces in polyline order.
+    void writeTo(COrxVertexArray& vl) const;
+
+private:
+    std::vector<COrxVertex> m_pieces;
+    std::vector<int> m_next;
+    std::vector<int> m_previous;
+    std::vector<int> m_origin;
+    int m_originals;
+};
+
+}  // namespace internal
+}  // namespace ORX
+
+#endif  // ORX_REGIONS_INTERNAL_PIECE_LOOP_H

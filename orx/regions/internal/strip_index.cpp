@@ -1,0 +1,125 @@
+#include "orx/regions/internal/strip_index.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "orx/plane_geometry/bulge_segment.h"
+
+namespace ORX {
+namespace internal {
+
+namespace {
+
+// List entries per segment the strip height aims at.
+constexpr double kEntriesPerSegment = 3.0;
+
+bool finiteBox(SegmentBox const& b) {
+    return std::isfinite(b.xmin) && std::isfinite(b.ymin) && std::isfinite(b.xmax) &&
+           std::isfinite(b.ymax);
+}
+
+}  // namespace
+
+StripIndex::StripIndex(std::vector<COrxVertex const*> segments) : m_segments(std::move(segments)) {
+    m_boxes.reserve(m_segments.size());
+    double y0 = HUGE_VAL, y1 = -HUGE_VAL, span = 0.0;
+    for (std::size_t k = 0; k < m_segments.size(); ++k) {
+        SegmentBox box = segmentBox(*m_segments[k]);
+        double const margin = pruneMargin(box);
+        box = {box.xmin - margin, box.ymin - margin, box.xmax + margin, box.ymax + margin};
+        m_boxes.push_back(box);
+        if (!finiteBox(box)) {
+            m_everywhere.push_back(static_cast<int>(k));
+            continue;
+        }
+        y0 = std::min(y0, box.ymin);
+        y1 = std::max(y1, box.ymax);
+        span += box.ymax - box.ymin;
+    }
+    std::size_t const finite = m_segments.size() - m_everywhere.size();
+    if (finite == 0 || !(y1 - y0 < HUGE_VAL)) {
+        for (std::size_t k = 0; k < m_segments.size(); ++k) {
+            if (finiteBox(m_boxes[k])) {
+                m_everywhere.push_back(static_cast<int>(k));
+            }
+        }
+        return;
+    }
+    // Strips as high as the boxes are on average spread over kEntriesPerSegment entries,
+    // but no more strips than segments.
+    double const n = static_cast<double>(finite);
+    m_height = std::max({(y1 - y0) / n, span / (kEntriesPerSegment * n), 1e-300});
+    m_y0 = y0;
+    m_strips = static_cast<int>(std::min(n, std::floor((y1 - y0) / m_height)) + 1);
+    m_start.assign(static_cast<std::size_t>(m_strips) + 1, 0);
+    for (std::size_t k = 0; k < m_segments.size(); ++k) {
+        if (finiteBox(m_boxes[k])) {
+            for (int s = stripOf(m_boxes[k].ymin), e = stripOf(m_boxes[k].ymax); s <= e; ++s) {
+                ++m_start[static_cast<std::size_t>(s) + 1];
+            }
+        }
+    }
+    for (int s = 0; s < m_strips; ++s) {
+        m_start[static_cast<std::size_t>(s) + 1] += m_start[static_cast<std::size_t>(s)];
+    }
+    m_ids.resize(static_cast<std::size_t>(m_start.back()));
+    std::vector<int> fill(m_start.begin(), m_start.end() - 1);
+    for (std::size_t k = 0; k < m_segments.size(); ++k) {
+        if (finiteBox(m_boxes[k])) {
+            for (int s = stripOf(m_boxes[k].ymin), e = stripOf(m_boxes[k].ymax); s <= e; ++s) {
+                m_ids[static_cast<std::size_t>(fill[static_cast<std::size_t>(s)]++)] =
+                    static_cast<int>(k);
+            }
+        }
+    }
+}
+
+int StripIndex::stripOf(double y) const {
+    double const s = std::floor((y - m_y0) / m_height);
+    if (!(s > 0.0)) {
+        return 0;  // also NaN
+    }
+    return s < m_strips - 1 ? static_cast<int>(s) : m_strips - 1;
+}
+
+template <class Visit>
+void StripIndex::visitStrip(int strip, Visit visit) const {
+    if (m_strips > 0) {
+        for (int i = m_start[static_cast<std::size_t>(strip)];
+             i < m_start[static_cast<std::size_t>(strip) + 1]; ++i) {
+            visit(m_ids[static_cast<std::size_t>(i)]);
+        }
+    }
+    for (int k : m_everywhere) {
+        visit(k);
+    }
+}
+
+int StripIndex::winding(COrxPoint3d const& p) const {
+    int total = 0;
+    visitStrip(stripOf(p.y), [&](int k) {
+        SegmentBox const& box = m_boxes[static_cast<std::size_t>(k)];
+        // Only a segment whose height spans p's and that reaches to its right counts.
+        if (box.ymin > p.y || box.ymax < p.y || box.xmax < p.x) {
+            return;
+        }
+        COrxVertex const& v = *m_segments[static_cast<std::size_t>(k)];
+        total += g_bulg_winding(v.startPoint(), v.endPoint(), v.bulge(), p);
+    });
+    return total;
+}
+
+bool StripIndex::onBoundary(COrxPoint3d const& p) const {
+    bool on = false;
+    visitStrip(stripOf(p.y), [&](int k) {
+        SegmentBox const& box = m_boxes[static_cast<std::size_t>(k)];
+        if (on || box.ymin > p.y || box.ymax < p.y || box.xmin > p.x || box.xmax < p.x) {
+            return;
+        }
+        on = m_segments[static_cast<std::size_t>(k)]->isPoint(p);
+    });
+    return on;
+}
+
+}  // namespace internal
+}  // namespace ORX
