@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "orx/foundation/internal/code_page_names.h"
+#include "orx/foundation/internal/string_platform.h"
 
 namespace ORX {
 namespace internal {

@@ -8,11 +8,6 @@
 namespace ORX {
 namespace internal {
 
-// The code page a Windows number stands for on Linux: the system code pages CP_ACP (0) and
-// CP_THREAD_ACP (3) are 1252, CP_OEMCP (1) is 850 and CP_MACCP (2) is 10000, as on a Western
-// Windows; every other number stands for itself.
-int resolveSystemCodePage(int codePage);
-
 // The iconv names that may convert the code page, to be tried in order (iconv accepts the
 // first one it knows). Empty for numbers that name no narrow code page (negative ones, and
 // the UTF-16 and UTF-32 numbers, which Windows refuses too).
