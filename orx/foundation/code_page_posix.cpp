@@ -1,16 +1,18 @@
 // Code-page conversion on Linux: glibc's iconv, corrected to Windows' answers.
 //
-// The Windows code page numbers map to iconv names below; other numbers (CP_ACP = 0 and
-// CP_OEMCP = 1 included, which have no meaning here) are unknown and fail.
-// - Single-byte code pages convert through a table of their 256 bytes, read from iconv once
-//   and corrected where glibc leaves a byte undefined that Windows maps (to the C1 control
-//   character of the same number, or to a private-use character). Both directions use the
-//   table, so every byte and every character of the table round-trips as on Windows.
-// - UTF-8, 932 and 936 convert with iconv itself. Undecodable input gives what Windows
-//   gives: U+FFFD for each maximal ill-formed UTF-8 sequence; for 932 and 936 the character
-//   Windows assigns to a stray single byte, else its default character. Known difference:
-//   the double-byte user-defined areas of 936, which Windows maps to private-use
-//   characters, are undecodable for glibc.
+// Every Windows code page number that iconv has a converter for works (code_page_names.h
+// says which name stands for which number, and what the system numbers 0 to 3 stand for). A
+// code page without a converter, also when iconv cannot open one that it lists, fails.
+// - A code page in which every byte is one character (or undefined) converts through a table
+//   of its 256 bytes, read from iconv on first use and corrected where glibc leaves a byte
+//   undefined that Windows maps (to the C1 control character of the same number, or to a
+//   private-use character). Both directions use the table, so every byte and every character
+//   of the table round-trips as on Windows.
+// - The others (UTF-8, the double-byte and the stateful code pages) convert with iconv
+//   itself. Undecodable input gives what Windows gives: U+FFFD for each maximal ill-formed
+//   UTF-8 sequence; for 932 and 936 the character Windows assigns to a stray single byte,
+//   else its default character. Known difference: the double-byte user-defined areas of 936,
+//   which Windows maps to private-use characters, are undecodable for glibc.
 // - Encoding never substitutes a look-alike: a character counts as representable only when
 //   its bytes decode back to it.
 #include <errno.h>
@@ -18,32 +20,19 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
+#include "orx/foundation/internal/code_page_names.h"
 #include "orx/foundation/internal/string_platform.h"
 
 namespace ORX {
 namespace internal {
 
 namespace {
-
-struct CodePageName {
-    int number;
-    char const* iconvName;
-    bool singleByte;
-};
-
-constexpr CodePageName kCodePages[] = {
-    {kUtf8CodePage, "UTF-8", false}, {932, "CP932", false},       {936, "CP936", false},
-    {437, "IBM437", true},           {850, "IBM850", true},       {852, "IBM852", true},
-    {866, "IBM866", true},           {1250, "CP1250", true},      {1251, "CP1251", true},
-    {1252, "CP1252", true},          {1253, "CP1253", true},      {1254, "CP1254", true},
-    {1257, "CP1257", true},          {20866, "KOI8-R", true},     {28591, "ISO-8859-1", true},
-    {28592, "ISO-8859-2", true},     {28595, "ISO-8859-5", true}, {28599, "ISO-8859-9", true},
-    {28605, "ISO-8859-15", true},
-};
 
 // Bytes that glibc leaves undefined (or that stand alone in a double-byte code page) and
 // the characters Windows decodes them to.
@@ -78,15 +67,6 @@ constexpr wchar_t kReplacementCharacter = 0xFFFD;
 constexpr wchar_t kDefaultCharacter932 = 0x30FB;
 iconv_t const kNoDescriptor = reinterpret_cast<iconv_t>(static_cast<std::intptr_t>(-1));
 
-CodePageName const* findCodePage(int number) {
-    for (CodePageName const& page : kCodePages) {
-        if (page.number == number) {
-            return &page;
-        }
-    }
-    return nullptr;
-}
-
 ByteCorrection const* findCorrection(int codePage, unsigned char byte) {
     for (ByteCorrection const& correction : kCorrections) {
         if (correction.codePage == codePage && correction.byte == byte) {
@@ -105,21 +85,33 @@ ByteCorrection const* findCorrection(int codePage, wchar_t character) {
     return nullptr;
 }
 
-// Runs iconv over the whole input; false at the first byte or character it cannot convert
-// (in and inLeft then point at it).
-bool convert(iconv_t descriptor, char*& in, std::size_t& inLeft, std::string& out) {
+// Runs iconv over the whole input and then lets the converter write what it still holds (a
+// character kept back to see whether a combining mark follows, the shift back to the initial
+// state). Returns 0, or the errno of the first byte or character it cannot convert (in and
+// inLeft then point at it; the converter is back in its initial state either way).
+int convert(iconv_t descriptor, char*& in, std::size_t& inLeft, std::string& out) {
     char chunk[256];
     while (inLeft > 0) {
         char* next = chunk;
         std::size_t room = sizeof chunk;
         std::size_t const result = iconv(descriptor, &in, &inLeft, &next, &room);
+        int const error = errno;
         out.append(chunk, sizeof chunk - room);
-        if (result == static_cast<std::size_t>(-1) && errno != E2BIG) {
+        if (result == static_cast<std::size_t>(-1) && error != E2BIG) {
             iconv(descriptor, nullptr, nullptr, nullptr, nullptr);
-            return false;
+            return error;
         }
     }
-    return true;
+    for (;;) {
+        char* next = chunk;
+        std::size_t room = sizeof chunk;
+        std::size_t const result = iconv(descriptor, nullptr, nullptr, &next, &room);
+        int const error = errno;
+        out.append(chunk, sizeof chunk - room);
+        if (result != static_cast<std::size_t>(-1) || error != E2BIG) {
+            return 0;
+        }
+    }
 }
 
 // Appends the wchar_t that iconv wrote as bytes.
@@ -139,7 +131,53 @@ wchar_t singleWide(std::string const& bytes) {
     return character;
 }
 
-// --- single-byte code pages ---------------------------------------------------------------
+// The two iconv descriptors of one code page. A descriptor holds conversion state, so one
+// is used by one thread at a time.
+class Descriptors {
+public:
+    Descriptors() = default;
+    Descriptors(Descriptors const&) = delete;
+    Descriptors& operator=(Descriptors const&) = delete;
+    ~Descriptors() { close(); }
+
+    // Keeps the descriptors when they convert iconvName already; false when iconv cannot
+    // open both.
+    bool open(std::string const& iconvName) {
+        if (m_toWide != kNoDescriptor && m_iconvName == iconvName) {
+            return true;
+        }
+        close();
+        m_toWide = iconv_open("WCHAR_T", iconvName.c_str());
+        m_fromWide = iconv_open(iconvName.c_str(), "WCHAR_T");
+        if (m_toWide == kNoDescriptor || m_fromWide == kNoDescriptor) {
+            close();
+            return false;
+        }
+        m_iconvName = iconvName;
+        return true;
+    }
+    iconv_t toWide() const { return m_toWide; }
+    iconv_t fromWide() const { return m_fromWide; }
+
+private:
+    void close() {
+        if (m_toWide != kNoDescriptor) {
+            iconv_close(m_toWide);
+        }
+        if (m_fromWide != kNoDescriptor) {
+            iconv_close(m_fromWide);
+        }
+        m_toWide = kNoDescriptor;
+        m_fromWide = kNoDescriptor;
+        m_iconvName.clear();
+    }
+
+    std::string m_iconvName;
+    iconv_t m_toWide = kNoDescriptor;
+    iconv_t m_fromWide = kNoDescriptor;
+};
+
+// --- what a code page is ------------------------------------------------------------------
 
 struct ByteTable {
     wchar_t toWide[256] = {};
@@ -147,46 +185,78 @@ struct ByteTable {
     std::unordered_map<wchar_t, unsigned char> toByte;
 };
 
-ByteTable readByteTable(CodePageName const& page) {
-    ByteTable table;
-    iconv_t const descriptor = iconv_open("WCHAR_T", page.iconvName);
+struct CodePage {
+    int number = 0;  // after resolveSystemCodePage
+    std::string iconvName;
+    bool singleByte = false;
+    ByteTable table;  // filled for single-byte code pages
+};
+
+// Decodes every byte alone. The code page is single-byte when each one is a character or
+// undefined; a byte that starts a longer sequence, or makes no character by itself (a shift
+// of a stateful code page), makes it multi-byte.
+bool readByteTable(CodePage& page, iconv_t toWide) {
     for (int b = 0; b < 256; ++b) {
         auto const byte = static_cast<unsigned char>(b);
         char text = static_cast<char>(byte);
         char* in = &text;
         std::size_t inLeft = 1;
         std::string wide;
-        if (descriptor != kNoDescriptor && convert(descriptor, in, inLeft, wide) &&
-            wide.size() == sizeof(wchar_t)) {
-            table.toWide[b] = singleWide(wide);
-            table.defined[b] = true;
+        int const error = convert(toWide, in, inLeft, wide);
+        if (error == 0 && wide.size() == sizeof(wchar_t)) {
+            page.table.toWide[b] = singleWide(wide);
+            page.table.defined[b] = true;
+        } else if (error != EILSEQ) {
+            return false;
         } else if (ByteCorrection const* fix = findCorrection(page.number, byte)) {
-            table.toWide[b] = fix->character;
-            table.defined[b] = true;
+            page.table.toWide[b] = fix->character;
+            page.table.defined[b] = true;
         }
-        if (table.defined[b] && table.toByte.count(table.toWide[b]) == 0) {
-            table.toByte[table.toWide[b]] = byte;
+        if (page.table.defined[b] && page.table.toByte.count(page.table.toWide[b]) == 0) {
+            page.table.toByte[page.table.toWide[b]] = byte;
         }
     }
-    if (descriptor != kNoDescriptor) {
-        iconv_close(descriptor);
-    }
-    return table;
+    return true;
 }
 
-// The tables, read once, on first use.
-ByteTable const& byteTable(CodePageName const& page) {
-    static std::unordered_map<int, ByteTable> const tables = [] {
-        std::unordered_map<int, ByteTable> all;
-        for (CodePageName const& each : kCodePages) {
-            if (each.singleByte) {
-                all.emplace(each.number, readByteTable(each));
-            }
+// The code page behind a number, or null when iconv has no converter for it.
+std::unique_ptr<CodePage> describeCodePage(int number) {
+    for (std::string const& name : iconvNames(number)) {
+        Descriptors descriptors;
+        if (!descriptors.open(name)) {
+            continue;
         }
-        return all;
-    }();
-    return tables.at(page.number);
+        auto page = std::make_unique<CodePage>();
+        page->number = number;
+        page->iconvName = name;
+        page->singleByte = readByteTable(*page, descriptors.toWide());
+        if (!page->singleByte) {
+            page->table = ByteTable();
+        }
+        return page;
+    }
+    return nullptr;
 }
+
+// The code pages met so far. One that cannot be converted is not remembered, so that it is
+// tried again (a converter may be installed, or a failure to open one may pass).
+CodePage const* findCodePage(int codePage) {
+    static std::mutex mutex;
+    static std::unordered_map<int, std::unique_ptr<CodePage>> known;
+    int const number = resolveSystemCodePage(codePage);
+    std::lock_guard<std::mutex> lock(mutex);
+    auto found = known.find(number);
+    if (found == known.end()) {
+        std::unique_ptr<CodePage> page = describeCodePage(number);
+        if (page == nullptr) {
+            return nullptr;
+        }
+        found = known.emplace(number, std::move(page)).first;
+    }
+    return found->second.get();
+}
+
+// --- single-byte code pages ---------------------------------------------------------------
 
 void decodeBytes(std::string_view bytes, ByteTable const& table, std::wstring& text) {
     text.clear();
@@ -213,53 +283,11 @@ bool encodeBytes(std::wstring_view text, ByteTable const& table, std::string& by
 
 // --- multi-byte code pages ----------------------------------------------------------------
 
-// iconv descriptors for one code page, kept per thread (a descriptor holds conversion state
-// and must not be shared) and reopened when another code page is asked for.
-class Descriptors {
-public:
-    Descriptors() = default;
-    Descriptors(Descriptors const&) = delete;
-    Descriptors& operator=(Descriptors const&) = delete;
-    ~Descriptors() { close(); }
-
-    bool open(CodePageName const& page) {
-        if (m_codePage == page.number) {
-            return true;
-        }
-        close();
-        m_toWide = iconv_open("WCHAR_T", page.iconvName);
-        m_fromWide = iconv_open(page.iconvName, "WCHAR_T");
-        if (m_toWide == kNoDescriptor || m_fromWide == kNoDescriptor) {
-            close();
-            return false;
-        }
-        m_codePage = page.number;
-        return true;
-    }
-    iconv_t toWide() const { return m_toWide; }
-    iconv_t fromWide() const { return m_fromWide; }
-
-private:
-    void close() {
-        if (m_toWide != kNoDescriptor) {
-            iconv_close(m_toWide);
-        }
-        if (m_fromWide != kNoDescriptor) {
-            iconv_close(m_fromWide);
-        }
-        m_toWide = kNoDescriptor;
-        m_fromWide = kNoDescriptor;
-        m_codePage = -1;
-    }
-
-    int m_codePage = -1;
-    iconv_t m_toWide = kNoDescriptor;
-    iconv_t m_fromWide = kNoDescriptor;
-};
-
-Descriptors* descriptorsFor(CodePageName const& page) {
+// The descriptors of the calling thread, opened for the code page (reopened when the thread
+// asks for another one); null when iconv cannot open them.
+Descriptors* descriptorsFor(CodePage const& page) {
     thread_local Descriptors descriptors;
-    return descriptors.open(page) ? &descriptors : nullptr;
+    return descriptors.open(page.iconvName) ? &descriptors : nullptr;
 }
 
 bool isContinuation(unsigned char byte, unsigned char low, unsigned char high) {
@@ -295,7 +323,7 @@ std::size_t illFormedUtf8Length(char const* bytes, std::size_t size) {
 }
 
 // What Windows decodes an undecodable byte (or UTF-8 sequence) at `in` to; advances past it.
-wchar_t undecodable(CodePageName const& page, char*& in, std::size_t& inLeft) {
+wchar_t undecodable(CodePage const& page, char*& in, std::size_t& inLeft) {
     std::size_t skip = 1;
     wchar_t character = static_cast<wchar_t>(kDefaultByte);
     if (page.number == kUtf8CodePage) {
@@ -312,7 +340,7 @@ wchar_t undecodable(CodePageName const& page, char*& in, std::size_t& inLeft) {
     return character;
 }
 
-bool decodeMultiByte(std::string_view bytes, CodePageName const& page, std::wstring& text) {
+bool decodeMultiByte(std::string_view bytes, CodePage const& page, std::wstring& text) {
     Descriptors* descriptors = descriptorsFor(page);
     if (descriptors == nullptr) {
         return false;
@@ -321,7 +349,7 @@ bool decodeMultiByte(std::string_view bytes, CodePageName const& page, std::wstr
     char* in = const_cast<char*>(bytes.data());
     std::size_t inLeft = bytes.size();
     text.clear();
-    while (!convert(descriptors->toWide(), in, inLeft, wide)) {
+    while (convert(descriptors->toWide(), in, inLeft, wide) != 0) {
         appendWide(text, wide);
         wide.clear();
         text += undecodable(page, in, inLeft);
@@ -330,27 +358,43 @@ bool decodeMultiByte(std::string_view bytes, CodePageName const& page, std::wstr
     return true;
 }
 
-// The bytes of one character, when it converts exactly and back.
-bool encodeCharacter(wchar_t character, CodePageName const& page, Descriptors const& descriptors,
-                     std::string& bytes) {
-    bytes.clear();
+// Whether the character converts exactly and back, on its own.
+bool encodesExactly(wchar_t character, Descriptors const& descriptors) {
+    std::string bytes;
     char* in = reinterpret_cast<char*>(&character);
     std::size_t inLeft = sizeof character;
-    if (!convert(descriptors.fromWide(), in, inLeft, bytes)) {
-        ByteCorrection const* fix = findCorrection(page.number, character);
-        if (fix == nullptr) {
-            return false;
-        }
-        bytes.assign(1, static_cast<char>(fix->byte));
-        return true;
+    if (convert(descriptors.fromWide(), in, inLeft, bytes) != 0) {
+        return false;
     }
     std::string back;
     char* again = &bytes[0];
     std::size_t againLeft = bytes.size();
-    return convert(descriptors.toWide(), again, againLeft, back) && singleWide(back) == character;
+    return convert(descriptors.toWide(), again, againLeft, back) == 0 &&
+           singleWide(back) == character;
 }
 
-bool encodeMultiByte(std::wstring_view text, CodePageName const& page, std::string& bytes,
+// Converts a run of characters that all encode exactly; false should iconv refuse it anyway.
+bool encodeRun(std::wstring const& run, Descriptors const& descriptors, std::string& bytes) {
+    char* in = reinterpret_cast<char*>(const_cast<wchar_t*>(run.data()));
+    std::size_t inLeft = run.size() * sizeof(wchar_t);
+    return convert(descriptors.fromWide(), in, inLeft, bytes) == 0;
+}
+
+// UTF-8: every character but a surrogate (or a number beyond U+10FFFF) has UTF-8 bytes;
+// those get U+FFFD, as Windows writes an unpaired surrogate.
+void encodeUtf8(std::wstring_view text, Descriptors const& descriptors, std::string& bytes) {
+    char* in = reinterpret_cast<char*>(const_cast<wchar_t*>(text.data()));
+    std::size_t inLeft = text.size() * sizeof(wchar_t);
+    while (convert(descriptors.fromWide(), in, inLeft, bytes) != 0) {
+        bytes += "\xEF\xBF\xBD";
+        in += sizeof(wchar_t);
+        inLeft -= sizeof(wchar_t);
+    }
+}
+
+// The characters that encode exactly are converted in runs (a stateful code page shifts
+// once per run, not per character); a corrected character or the default byte ends a run.
+bool encodeMultiByte(std::wstring_view text, CodePage const& page, std::string& bytes,
                      bool& lossless) {
     Descriptors* descriptors = descriptorsFor(page);
     if (descriptors == nullptr) {
@@ -359,50 +403,47 @@ bool encodeMultiByte(std::wstring_view text, CodePageName const& page, std::stri
     bytes.clear();
     lossless = true;
     if (page.number == kUtf8CodePage) {
-        // Every character but a surrogate (or a number beyond U+10FFFF) has UTF-8 bytes;
-        // those get U+FFFD, as Windows writes an unpaired surrogate.
-        char* in = reinterpret_cast<char*>(const_cast<wchar_t*>(text.data()));
-        std::size_t inLeft = text.size() * sizeof(wchar_t);
-        while (!convert(descriptors->fromWide(), in, inLeft, bytes)) {
-            bytes += "\xEF\xBF\xBD";
-            in += sizeof(wchar_t);
-            inLeft -= sizeof(wchar_t);
-        }
+        encodeUtf8(text, *descriptors, bytes);
         return true;
     }
-    std::string one;
+    std::wstring run;
     for (wchar_t c : text) {
-        if (encodeCharacter(c, page, *descriptors, one)) {
-            bytes += one;
-        } else {
-            bytes += kDefaultByte;
-            lossless = false;
+        if (encodesExactly(c, *descriptors)) {
+            run += c;
+            continue;
         }
+        if (!encodeRun(run, *descriptors, bytes)) {
+            return false;
+        }
+        run.clear();
+        ByteCorrection const* fix = findCorrection(page.number, c);
+        bytes += fix != nullptr ? static_cast<char>(fix->byte) : kDefaultByte;
+        lossless = lossless && fix != nullptr;
     }
-    return true;
+    return encodeRun(run, *descriptors, bytes);
 }
 
 }  // namespace
 
 bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text) {
-    CodePageName const* page = findCodePage(codePage);
+    CodePage const* page = findCodePage(codePage);
     if (page == nullptr) {
         return false;
     }
     if (page->singleByte) {
-        decodeBytes(bytes, byteTable(*page), text);
+        decodeBytes(bytes, page->table, text);
         return true;
     }
     return decodeMultiByte(bytes, *page, text);
 }
 
 bool encodeCodePage(std::wstring_view text, int codePage, std::string& bytes, bool& lossless) {
-    CodePageName const* page = findCodePage(codePage);
+    CodePage const* page = findCodePage(codePage);
     if (page == nullptr) {
         return false;
     }
     if (page->singleByte) {
-        lossless = encodeBytes(text, byteTable(*page), bytes);
+        lossless = encodeBytes(text, page->table, bytes);
         return true;
     }
     return encodeMultiByte(text, *page, bytes, lossless);

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <climits>
+#include <cwchar>
 #include <string>
 #include <string_view>
 
@@ -34,9 +35,38 @@ int encode(std::wstring_view text, int codePage, EncodeOptions options, char* ou
                                options.reportsDefault ? usedDefault : nullptr);
 }
 
+// The default code page of a kind for a locale; fallback when it cannot be had.
+int localeCodePage(LCID locale, LCTYPE kind, int fallback) {
+    wchar_t digits[8] = {};
+    if (GetLocaleInfoW(locale, kind, digits, 8) == 0) {
+        return fallback;
+    }
+    int const number = static_cast<int>(std::wcstol(digits, nullptr, 10));
+    return number > 0 ? number : fallback;
+}
+
 }  // namespace
 
+// The conversion calls take the system numbers too, but IsValidCodePage refuses them, and
+// the flags a code page accepts depend on the code page they stand for.
+int resolveSystemCodePage(int codePage) {
+    switch (codePage) {
+        case CP_ACP:
+            return static_cast<int>(GetACP());
+        case CP_OEMCP:
+            return static_cast<int>(GetOEMCP());
+        case CP_MACCP:
+            return localeCodePage(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTMACCODEPAGE, codePage);
+        case CP_THREAD_ACP:
+            return localeCodePage(GetThreadLocale(), LOCALE_IDEFAULTANSICODEPAGE,
+                                  static_cast<int>(GetACP()));
+        default:
+            return codePage;
+    }
+}
+
 bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text) {
+    codePage = resolveSystemCodePage(codePage);
     if (!IsValidCodePage(static_cast<UINT>(codePage)) || bytes.size() > INT_MAX) {
         return false;
     }
@@ -57,6 +87,7 @@ bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text) {
 }
 
 bool encodeCodePage(std::wstring_view text, int codePage, std::string& bytes, bool& lossless) {
+    codePage = resolveSystemCodePage(codePage);
     if (!IsValidCodePage(static_cast<UINT>(codePage)) || text.size() > INT_MAX) {
         return false;
     }

@@ -18,5 +18,13 @@
 #include "orx/foundation/ptr_map.h"
 #include "orx/foundation/string.h"
 #include "orx/foundation/text.h"
+// The further text helpers.
+#include "orx/foundation/base64.h"
+#include "orx/foundation/code_pages.h"
+#include "orx/foundation/hex_text.h"
+#include "orx/foundation/text_increment.h"
+#include "orx/foundation/text_markers.h"
+#include "orx/foundation/text_markup.h"
+#include "orx/foundation/uuid.h"
 
 #endif  // ORX_FOUNDATION_FOUNDATION_H

@@ -186,10 +186,15 @@ public:
     // pattern.
     bool match(wchar_t const* pattern, wchar_t delimiter) const;
 
-    // Converts narrow text of a Windows code page (65001 UTF-8, 1252, 1250, ... see
-    // code_page_posix.cpp for the Linux list). For every code page but UTF-8 the escapes
-    // \U+hhhh written by toMultiByte are turned back into their characters. A null text,
-    // or a code page the platform cannot convert, gives the null string.
+    // Converts narrow text of a Windows code page (65001 UTF-8, 1252, 1250, 932, ...). For
+    // every code page but UTF-8 the escapes \U+hhhh written by toMultiByte are turned back
+    // into their characters. A null text, or a code page the platform cannot convert, gives
+    // the null string.
+    // Windows converts every code page the system has. Linux converts every Windows code page
+    // number that its iconv has a converter for (a system without the converter, or whose
+    // iconv cannot open it, fails as for an unknown number); it has no system code pages, so
+    // 0 (the ANSI code page) and 3 (the thread's) stand for 1252, 1 (the OEM code page) for
+    // 850 and 2 (the Mac code page) for 10000, as on a Western Windows.
     COrxString& fromMultiByte(char const* text, int codePage);
     // Converts to a new NUL-terminated narrow text (release it with delete[]), stored in out
     // and returned. For every code page but UTF-8 nothing is lost: the characters the code

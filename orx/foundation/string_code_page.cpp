@@ -24,6 +24,7 @@ bool canEncode(std::wstring_view character, int codePage) {
 }  // namespace
 
 COrxString& COrxString::fromMultiByte(char const* text, int codePage) {
+    codePage = ORX::internal::resolveSystemCodePage(codePage);
     std::wstring wide;
     if (text == nullptr || !ORX::internal::decodeCodePage(text, codePage, wide)) {
         return setNull();
@@ -38,6 +39,7 @@ COrxString& COrxString::fromMultiByte(char const* text, int codePage) {
 }
 
 char* COrxString::toMultiByte(char*& out, int codePage) const {
+    codePage = ORX::internal::resolveSystemCodePage(codePage);
     out = nullptr;
     if (m_buffer == nullptr) {
         return nullptr;
@@ -51,10 +53,9 @@ char* COrxString::toMultiByte(char*& out, int codePage) const {
     if (codePage != kUtf8CodePage && (!lossless || ORX::internal::hasEscapeLookalike(text))) {
         // Converts a copy with the characters the code page cannot hold written as escapes
         // (and with any backslash that would read as an escape escaped itself).
-        std::wstring const escaped =
-            ORX::internal::escapeWideChars(text, [codePage](std::wstring_view character) {
-                return !canEncode(character, codePage);
-            });
+        std::wstring const escaped = ORX::internal::escapeWideChars(
+            text,
+            [codePage](std::wstring_view character) { return !canEncode(character, codePage); });
         if (!ORX::internal::encodeCodePage(escaped, codePage, bytes, lossless)) {
             return nullptr;
         }

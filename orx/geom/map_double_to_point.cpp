@@ -76,6 +76,50 @@ bool CMapDoubleToPoint::getAt(int i, double& t, COrxPoint3d& p) const {
     return true;
 }
 
+CMapDoubleToPoint& CMapDoubleToPoint::removeAll() {
+    Parameters::removeAll();
+    m_points.setLogicalLength(0);
+    return *this;
+}
+
+CMapDoubleToPoint& CMapDoubleToPoint::removeAt(unsigned long i) {
+    if (i < len()) {
+        Parameters::removeAt(i);
+        m_points.removeAt(static_cast<int>(i));
+    }
+    return *this;
+}
+
+CMapDoubleToPoint& CMapDoubleToPoint::revert() {
+    Parameters::revert();
+    m_points.revert();
+    return *this;
+}
+
+void CMapDoubleToPoint::swap(unsigned long i, unsigned long j) {
+    if (i < len() && j < len()) {
+        Parameters::swap(i, j);
+        COrxPoint3d const first = m_points[static_cast<int>(i)];
+        m_points[static_cast<int>(i)] = m_points[static_cast<int>(j)];
+        m_points[static_cast<int>(j)] = first;
+    }
+}
+
+double& CMapDoubleToPoint::operator[](int i) {
+    if (i >= 0 && static_cast<unsigned long>(i) >= len()) {
+        unsigned long const wanted = static_cast<unsigned long>(i) + 1;
+        if (setLogicalLength(wanted) != wanted) {
+            static double unpaired = 0.0;
+            return unpaired;
+        }
+    }
+    return Parameters::operator[](i);
+}
+
+double const& CMapDoubleToPoint::operator[](int i) const {
+    return Parameters::operator[](i);
+}
+
 COrxArrayTempl<double> CMapDoubleToPoint::getDbLst() const {
     return Parameters(*this);
 }

@@ -1,9 +1,11 @@
 // ORX::CMapDoubleToPoint: a list of (parameter, point) pairs that sorts by the parameter.
 //
 // The base array holds the parameters and a point list member holds the points; index i
-// pairs parameter i with point i, and both lists always have the same length as long as the
-// pairs are edited through the members below (the base array's own editing members act on the
-// parameters only and are not meant for this class).
+// pairs parameter i with point i, and both lists always have the same length. Every member of
+// the base array that would change the length or the order of the parameters alone is either
+// redefined here to edit both lists, or hidden (the ones that have no meaning for a pair:
+// appendUniq, consUniq, remove and the set operators). The base array's members that only
+// read, or that return a copy of the parameters, stay as they are.
 //
 //     ORX::CMapDoubleToPoint along;
 //     along.append(2.0, COrxPoint3d(2, 0, 0));
@@ -38,6 +40,21 @@ public:
     // returns the new length, the old one when the lists cannot grow.
     unsigned long setLogicalLength(unsigned long n);
 
+    // Edits of the base array, applied to both lists.
+    // Removes every pair.
+    CMapDoubleToPoint& removeAll();
+    // Removes pair i; an index not below the length changes nothing.
+    CMapDoubleToPoint& removeAt(unsigned long i);
+    // Reverses the order of the pairs.
+    CMapDoubleToPoint& revert();
+    // Exchanges pairs i and j; nothing happens unless both are below the length.
+    void swap(unsigned long i, unsigned long j);
+    // The parameter at i, as the base array answers it; an index past the end first extends
+    // both lists to i + 1 pairs (new pairs as setLogicalLength makes them). When the lists
+    // cannot grow, a dummy parameter outside the map is returned.
+    double& operator[](int i);
+    double const& operator[](int i) const;
+
     COrxArrayTempl<double> getDbLst() const;
     COrxPoint3dArray getPtLst() const;
 
@@ -50,6 +67,14 @@ public:
     bool sort();
 
 private:
+    // Would add, move or remove a parameter without its point.
+    using COrxArrayTempl<double>::appendUniq;
+    using COrxArrayTempl<double>::consUniq;
+    using COrxArrayTempl<double>::remove;
+    using COrxArrayTempl<double>::operator+=;
+    using COrxArrayTempl<double>::operator&=;
+    using COrxArrayTempl<double>::operator|=;
+
     COrxPoint3dArray m_points;
 };
 

@@ -1,12 +1,12 @@
 #include "orx/services/files.h"
 
-#include <atomic>
 #include <cstdint>
-#include <ctime>
 #include <string>
 
+#include "orx/foundation/internal/random_bytes.h"
 #include "orx/services/internal/file_system.h"
 #include "orx/services/internal/path_parts.h"
+#include "orx/services/internal/temp_name.h"
 
 namespace ORX {
 namespace {
@@ -77,26 +77,24 @@ COrxString stripPath(wchar_t const* path) {
 COrxString tmp_dir() {
     std::wstring folder = internal::temporaryRoot();
     folder += internal::kPathSeparator;
-    folder += kTempFolderName;
-    internal::createDirectory(folder);
+    folder += internal::userFolderName(kTempFolderName);
+    if (!internal::makePrivateDirectory(folder)) {
+        return COrxString(L"");
+    }
     folder += internal::kPathSeparator;
     return COrxString(folder.c_str());
 }
 
 COrxString fileNameTmp(wchar_t const* ext) {
-    wchar_t const* extension = (ext == nullptr || ext[0] == L'\0') ? kDefaultTempExtension : ext;
-    // Seeded once with the time, so that names of earlier runs are rarely met again; atomic,
-    // so that threads asking at the same moment still get different numbers.
-    static std::atomic<std::uint32_t> counter{static_cast<std::uint32_t>(std::time(nullptr))};
-    COrxString const folder = tmp_dir();
-    for (;;) {
-        COrxString name;
-        name.format(L"tmp_%x.%s", static_cast<unsigned int>(counter++), extension);
-        COrxString candidate = folder + name;
-        if (!internal::pathExists(std::wstring(candidate))) {
-            return candidate;
-        }
+    std::wstring const folder(tmp_dir());
+    if (folder.empty()) {
+        return COrxString(L"");
     }
+    wchar_t const* extension = (ext == nullptr || ext[0] == L'\0') ? kDefaultTempExtension : ext;
+    std::wstring const name = internal::freeTempName(folder, extension, [](std::uint64_t& number) {
+        return internal::randomBytes(&number, sizeof number);
+    });
+    return COrxString(name.c_str());
 }
 
 bool fileNameUNC(COrxString& out, wchar_t const* path, bool local) {

@@ -13,7 +13,7 @@
 // used through them). Environment references (%NAME%) are expanded where a function says
 // so, by COrxString::expandEnvironmentStrings.
 //
-// The temporary-name counter and the current directory are process-wide and not locked.
+// The current directory is process-wide and not locked.
 #ifndef ORX_SERVICES_FILES_H
 #define ORX_SERVICES_FILES_H
 
@@ -41,16 +41,24 @@ ORX_API COrxString fileType(wchar_t const* path);
 // Name and extension ("hall.dwg").
 ORX_API COrxString stripPath(wchar_t const* path);
 
-// The library's temporary folder, created when missing, with a trailing separator.
-// Windows: "%TEMP%\Kelvara\". Linux: "$TEMP/Kelvara/", where an unset or empty TEMP falls
-// back to TMPDIR and then to /tmp; the folder gets the default permissions, so on a shared
-// /tmp it belongs to the user who made it first.
+// The library's temporary folder, created when missing, with a trailing separator; only the
+// user may use it. Windows: "%TEMP%\Kelvara\" (the user's own temporary folder); a link or
+// junction there is refused. Linux: "$TEMP/Kelvara-<uid>/", where an unset or empty TEMP
+// falls back to TMPDIR and then to /tmp, and <uid> is the effective user id, so that every
+// user of a shared /tmp has a folder of their own. The folder is created with permission
+// 0700; an existing one must be a real directory (not a link) owned by the user, and wider
+// permissions are narrowed to 0700. A folder that cannot be made, or that fails the check
+// (another user's, or a link someone planted), gives the empty string: nothing is handed out
+// in a folder that others control.
 ORX_API COrxString tmp_dir();
 
-// A name for a new temporary file in tmp_dir(): "tmp_<counter in hex>.<ext>" ("tmp" when ext
-// is null or empty). The process-wide counter starts at the time in seconds of its first
-// use and counts up past names that exist already, so calls never repeat a name. The file is
-// not created; another process may take the name first.
+// A name for a new temporary file in tmp_dir(): "tmp_<hex>.<ext>" ("tmp" when ext is null or
+// empty), where <hex> is a random 64-bit number from the system's random source (so names
+// cannot be predicted) in lower-case hex digits. A name is handed out only when no directory
+// entry of that name exists, of any kind: a link counts, also one whose target is missing,
+// and is never followed. The file is not created; in the private folder no other user can
+// take the name first. Empty when tmp_dir() is empty, when the system gives no random
+// numbers, or when the folder cannot be looked into.
 ORX_API COrxString fileNameTmp(wchar_t const* ext);
 
 // The network form of a path. False for a null path and for one that is a network name

@@ -16,8 +16,9 @@
 // Windows: the registry itself (advapi32), under HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE.
 //
 // Linux: the same keys and values in one SQLite database per hive, shared safely by any
-// number of threads and processes (WAL journal, every write one BEGIN IMMEDIATE transaction
-// with synchronous=FULL, a busy timeout of ORX::kRegistryBusyTimeoutMs). Key and value names
+// number of threads and processes (every write one BEGIN IMMEDIATE transaction with
+// synchronous=FULL, a busy timeout of ORX::kRegistryBusyTimeoutMs; the user's hive keeps a
+// write-ahead log, the machine and classes hives a rollback journal, see below). Key and value names
 // compare case-insensitively (simple Unicode upper-casing) and keep the spelling they were
 // created with; sub-keys and values enumerate in that case-insensitive name order. The
 // databases live in the directory named by the environment variable ORX_REGISTRY_DIR
@@ -30,6 +31,16 @@
 // the first write. A database the process may not write is opened read-only, and writes to
 // it fail as an access-denied registry would. Text values are stored as UTF-8, other values
 // as their bytes.
+// What an administrator deploys for the machine-wide settings: machine.db (and classes.db)
+// alone, readable by the users (0644) in a folder they may enter (0755); no side file is
+// needed. The library writes these two hives with a rollback journal, which exists only
+// while a write runs, so a reader needs nothing but the database file (a write-ahead log
+// would need side files that a reader who may not write the folder cannot create). A hive
+// that another SQLite client left in WAL mode is still read when its side files are gone:
+// the reader then takes the database file as it is and sees a later change only when it
+// opens the hive again (next call after the file was replaced, or next process), so change
+// such a hive only through the library, or put it back into rollback mode
+// (PRAGMA journal_mode=DELETE).
 //
 // The process-wide base path, version and application-key list are not locked: set them
 // once, before threads use them.

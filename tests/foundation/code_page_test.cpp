@@ -118,3 +118,45 @@ TEST(CodePageTest, EveryByteOfTheSingleByteCodePagesDecodesAsOnWindows) {
     EXPECT_TRUE(fromBytes("\x81\x8D\x8F\x90\x9D", 1252) == L"\u0081\u008d\u008f\u0090\u009d");
     EXPECT_TRUE(fromBytes("\x80\x9F\xFF", 1252) == L"\u20ac\u0178\u00ff");
 }
+
+TEST(CodePageTest, CodePagesBeyondTheWesternOnesConvertBothWays) {
+    struct Case {
+        int codePage;
+        char const* bytes;
+        wchar_t const* text;
+    };
+    Case const cases[] = {
+        {874, "\xA1\x80", L"\u0e01\u20ac"},      // Thai
+        {949, "\xB0\xA1", L"\uac00"},            // Korean
+        {950, "\xA4\xA4", L"\u4e2d"},            // Traditional Chinese
+        {1255, "\xE0\xF9", L"\u05d0\u05e9"},     // Hebrew, letters without points
+        {1256, "\xC7", L"\u0627"},               // Arabic
+        {1258, "\xC3", L"\u0102"},               // Vietnamese
+        {737, "\x80", L"\u0391"},                // Greek (DOS)
+        {10000, "\x80", L"\u00c4"},              // Mac Roman
+        {21866, "\xA4", L"\u0454"},              // Cyrillic (KOI8-U)
+        {20127, "plain ASCII", L"plain ASCII"},  // US-ASCII
+        {28597, "\xE1", L"\u03b1"},              // ISO 8859-7
+    };
+    for (Case const& c : cases) {
+        EXPECT_TRUE(fromBytes(c.bytes, c.codePage) == c.text) << c.codePage;
+        EXPECT_EQ(toBytes(COrxString(c.text), c.codePage), c.bytes) << c.codePage;
+        // What the code page cannot hold travels as an escape here too.
+        COrxString const foreign(L"\u2603");
+        EXPECT_TRUE(fromBytes(toBytes(foreign, c.codePage).c_str(), c.codePage) == foreign)
+            << c.codePage;
+    }
+}
+
+TEST(CodePageTest, TheSystemCodePagesConvert) {
+    for (int codePage : {0, 1}) {
+        EXPECT_TRUE(fromBytes("abc 123", codePage) == L"abc 123") << codePage;
+        EXPECT_EQ(toBytes(COrxString(L"abc 123"), codePage), "abc 123") << codePage;
+    }
+#ifndef _WIN32
+    // Linux has no system code pages: ANSI stands for 1252 and OEM for 850.
+    EXPECT_TRUE(fromBytes("\x80\xFC", 0) == L"\u20ac\u00fc");
+    EXPECT_TRUE(fromBytes("\x81\xD5", 1) == L"\u00fc\u0131");
+    EXPECT_EQ(toBytes(COrxString(L"\u00fc"), 1), "\x81");
+#endif
+}

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <type_traits>
+#include <utility>
 
 #include "orx/geom/functions.h"
 
@@ -48,4 +51,64 @@ TEST(CMapDoubleToPointTest, BothListsStayPaired) {
     ORX::CMapDoubleToPoint const copy(map);
     map.append(7.0, S);
     EXPECT_EQ(copy.getPtLst().len(), 2);  // a deep copy
+}
+
+namespace {
+
+// Callable on a CMapDoubleToPoint: the base array's members that would edit one list only
+// must not be.
+template <typename Edit, typename = void>
+struct Compiles : std::false_type {};
+template <typename Edit>
+struct Compiles<
+    Edit, std::void_t<decltype(std::declval<Edit>()(std::declval<ORX::CMapDoubleToPoint&>()))>>
+    : std::true_type {};
+
+auto const appendUniq = [](auto& m) -> decltype(m.appendUniq(1.0)) { return m.appendUniq(1.0); };
+auto const consUniq = [](auto& m) -> decltype(m.consUniq(1.0)) { return m.consUniq(1.0); };
+auto const removeValue = [](auto& m) -> decltype(m.remove(1.0)) { return m.remove(1.0); };
+auto const addList = [](auto& m) -> decltype(m += m) { return m += m; };
+auto const intersectList = [](auto& m) -> decltype(m &= m) { return m &= m; };
+auto const uniteList = [](auto& m) -> decltype(m |= m) { return m |= m; };
+static_assert(!Compiles<decltype(appendUniq)>::value && !Compiles<decltype(consUniq)>::value &&
+                  !Compiles<decltype(removeValue)>::value && !Compiles<decltype(addList)>::value &&
+                  !Compiles<decltype(intersectList)>::value &&
+                  !Compiles<decltype(uniteList)>::value,
+              "an inherited member edits the parameters without their points");
+
+}  // namespace
+
+// Every edit the base array offers keeps the pairs together: parameter k stays with the
+// point (k, 0, 0).
+TEST(CMapDoubleToPointTest, InheritedEditsChangeBothLists) {
+    struct Case {
+        char const* name;
+        void (*edit)(ORX::CMapDoubleToPoint&);
+        int length;
+    };
+    Case const cases[] = {
+        {"removeAt(0)", [](ORX::CMapDoubleToPoint& m) { m.removeAt(0); }, 2},
+        {"removeAt(3)", [](ORX::CMapDoubleToPoint& m) { m.removeAt(3); }, 3},
+        {"removeAll", [](ORX::CMapDoubleToPoint& m) { m.removeAll(); }, 0},
+        {"revert", [](ORX::CMapDoubleToPoint& m) { m.revert(); }, 3},
+        {"swap(0, 2)", [](ORX::CMapDoubleToPoint& m) { m.swap(0, 2); }, 3},
+        {"swap(0, 3)", [](ORX::CMapDoubleToPoint& m) { m.swap(0, 3); }, 3},
+        {"[-1] = 2", [](ORX::CMapDoubleToPoint& m) { m[-1] = 2.0; }, 3},
+        {"[4] = 0", [](ORX::CMapDoubleToPoint& m) { m[4] = 0.0; }, 5},
+    };
+    for (Case const& c : cases) {
+        ORX::CMapDoubleToPoint map;
+        for (int k = 0; k < 3; ++k) {
+            map.append(k, COrxPoint3d(k, 0, 0));
+        }
+        c.edit(map);
+        EXPECT_EQ(static_cast<int>(map.len()), c.length) << c.name;
+        EXPECT_EQ(map.getPtLst().len(), c.length) << c.name;
+        for (int i = 0; i < std::min(c.length, 3); ++i) {
+            double t = -1;
+            COrxPoint3d p;
+            ASSERT_TRUE(map.getAt(i, t, p)) << c.name;
+            EXPECT_EQ(p, COrxPoint3d(t, 0, 0)) << c.name << " pair " << i;
+        }
+    }
 }

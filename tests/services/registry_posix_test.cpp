@@ -166,6 +166,40 @@ TEST_F(RegistryProcessesTest, AUserWhoMayNotWriteTheMachineHiveReadsIt) {
     EXPECT_EQ(reader.finish(output), 0) << output;
 }
 
+// What an administrator deploys: the machine hive's database file alone, in a folder its
+// readers may not write. Also when it was left in WAL mode by another SQLite client, whose
+// closing removed the side files.
+TEST_F(RegistryProcessesTest, AReaderNeedsNothingButTheMachineHiveFile) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs root to run a reader as another user";
+    }
+    {
+        orx_test::Key const key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software\\OrxWorker"));
+        ASSERT_TRUE(ORX::regWrite(key, L"Machine", 4711ul));
+    }
+    fs::perms const readable = fs::perms::owner_all | fs::perms::group_read |
+                               fs::perms::group_exec | fs::perms::others_read |
+                               fs::perms::others_exec;
+    for (bool const leftInWalMode : {false, true}) {
+        orx_test::ScratchDirectory deployed;
+        fs::copy_file(m_folder.folder() / "machine.db", deployed.path() / "machine.db");
+        if (leftInWalMode) {
+            sqlite3* db = nullptr;
+            ASSERT_EQ(sqlite3_open((deployed.path() / "machine.db").c_str(), &db), SQLITE_OK);
+            sqlite3_exec(db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+            sqlite3_close(db);
+        }
+        ASSERT_EQ(std::distance(fs::directory_iterator(deployed.path()), fs::directory_iterator()),
+                  1);
+        fs::permissions(deployed.path(), readable);
+        orx_test::ScopedEnv folder("ORX_REGISTRY_DIR", deployed.narrow());
+        Worker reader({"machine", "4711"}, "65534");  // nobody
+        ASSERT_TRUE(reader.started());
+        std::string output;
+        EXPECT_EQ(reader.finish(output), 0) << (leftInWalMode ? "WAL mode " : "") << output;
+    }
+}
+
 TEST_F(RegistryProcessesTest, ConcurrentWritersLoseNothingAndReadNothingTorn) {
     std::vector<std::unique_ptr<Worker>> workers;
     for (int id = 0; id < kWorkers; ++id) {

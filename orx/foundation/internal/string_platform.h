@@ -13,6 +13,12 @@ namespace internal {
 // The Windows number of the UTF-8 code page.
 constexpr int kUtf8CodePage = 65001;
 
+// The code page a number stands for: the system code pages CP_ACP (0), CP_OEMCP (1),
+// CP_MACCP (2) and CP_THREAD_ACP (3) become the code page they name (on Linux, which has
+// none, those of a Western Windows: 1252, 850, 10000 and 1252); every other number stands
+// for itself.
+int resolveSystemCodePage(int codePage);
+
 // Narrow text of a code page to wide text. Undecodable bytes become the character Windows
 // gives them. False (text untouched) when the code page is unknown to the platform.
 bool decodeCodePage(std::string_view bytes, int codePage, std::wstring& text);

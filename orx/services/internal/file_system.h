@@ -23,13 +23,24 @@ std::wstring inputPath(wchar_t const* path);
 // Linux.
 void useNativeSeparators(std::wstring& path);
 
-// Whether something (file or directory) exists at path.
+// Whether something (file or directory) exists at path; a link is followed.
 bool pathExists(std::wstring const& path);
-// Creates one directory; failure (it exists, no permission) is ignored.
-void createDirectory(std::wstring const& path);
+// Whether there is a directory entry named path, of any kind, without following links: a
+// link counts, also one whose target is missing. An entry that cannot be looked at (no
+// permission) counts as existing.
+bool entryExists(std::wstring const& path);
 // The folder temporary files go into, without a trailing separator: %TEMP% expanded on
 // Windows; on Linux $TEMP, else $TMPDIR, else /tmp.
 std::wstring temporaryRoot();
+// The name of the library's own folder in the temporary folder: base itself on Windows,
+// whose temporary folder belongs to the user already; base + "-" + the effective user id on
+// Linux, whose temporary folder is usually shared by every user.
+std::wstring userFolderName(wchar_t const* base);
+// Creates the folder when it is missing and checks that only the user can use it. Linux: it
+// must be a directory itself (not a link to one) owned by the effective user; wider
+// permissions than 0700 are narrowed to 0700. Windows: it must be a directory that is not a
+// link or junction. False when the folder cannot be made or fails the check.
+bool makePrivateDirectory(std::wstring const& path);
 
 // The absolute form of path, resolved against the current directory, with "." and ".."
 // removed (no link is followed and nothing needs to exist). False when it cannot be made.

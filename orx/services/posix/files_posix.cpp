@@ -1,4 +1,6 @@
 // The file-system calls of the services on Linux: POSIX calls on UTF-8 paths.
+#include <errno.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,8 +22,9 @@ wchar_t const* const kLocalDevicePrefix = L"//.";
 
 namespace {
 
-// Permissions of a new directory before the umask, as mkdir(1) gives them.
-constexpr mode_t kNewDirectoryMode = 0777;
+// Permissions of a folder only its owner may use, and the mask of all permission bits.
+constexpr mode_t kPrivateDirectoryMode = 0700;
+constexpr mode_t kAllPermissions = 07777;
 
 std::string nativeBytes(std::wstring const& path) {
     return toUtf8(path);
@@ -83,8 +86,9 @@ bool pathExists(std::wstring const& path) {
     return access(nativeBytes(path).c_str(), F_OK) == 0;
 }
 
-void createDirectory(std::wstring const& path) {
-    mkdir(nativeBytes(path).c_str(), kNewDirectoryMode);
+bool entryExists(std::wstring const& path) {
+    struct stat status {};
+    return lstat(nativeBytes(path).c_str(), &status) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 std::wstring temporaryRoot() {
@@ -100,6 +104,30 @@ std::wstring temporaryRoot() {
         root.pop_back();  // the root folder itself gives "" + "/Kelvara"
     }
     return root;
+}
+
+std::wstring userFolderName(wchar_t const* base) {
+    return base + (L'-' + std::to_wstring(geteuid()));
+}
+
+// The folder is opened without following a link, and checked and narrowed through that
+// descriptor, so that it cannot be swapped between the check and the change.
+bool makePrivateDirectory(std::wstring const& path) {
+    std::string const bytes = nativeBytes(path);
+    if (mkdir(bytes.c_str(), kPrivateDirectoryMode) != 0 && errno != EEXIST) {
+        return false;
+    }
+    int const folder = open(bytes.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (folder < 0) {
+        return false;
+    }
+    struct stat status {};
+    bool ok = fstat(folder, &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid();
+    if (ok && (status.st_mode & kAllPermissions) != kPrivateDirectoryMode) {
+        ok = fchmod(folder, kPrivateDirectoryMode) == 0;
+    }
+    close(folder);
+    return ok;
 }
 
 bool absolutePath(std::wstring const& path, std::wstring& absolute) {

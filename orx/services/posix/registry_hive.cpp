@@ -3,7 +3,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <utility>
 
 #include "orx/services/internal/registry_api.h"
@@ -98,10 +101,54 @@ bool createFolderOf(std::string const& file) {
     return true;
 }
 
+// The byte of the database header that is 2 while the database is in WAL mode.
+constexpr long kHeaderWalOffset = 18;
+constexpr int kHeaderWalMode = 2;
+
+// A database in WAL mode whose log is gone: all it holds is in the database file.
+bool isWalWithoutLog(std::string const& file) {
+    std::FILE* const stream = std::fopen(file.c_str(), "rb");
+    if (stream == nullptr) {
+        return false;
+    }
+    bool const wal =
+        std::fseek(stream, kHeaderWalOffset, SEEK_SET) == 0 && std::fgetc(stream) == kHeaderWalMode;
+    std::fclose(stream);
+    return wal && access((file + "-wal").c_str(), F_OK) != 0;
+}
+
+// The URI of a file opened immutable: the path with the characters a URI reserves escaped.
+std::string immutableUri(std::string const& file) {
+    std::string uri = "file:";
+    for (unsigned char c : file) {
+        if (std::isalnum(c) || std::strchr("/-._~", c) != nullptr) {
+            uri += static_cast<char>(c);
+        } else {
+            char escaped[4];
+            std::snprintf(escaped, sizeof escaped, "%%%02X", c);
+            uri += escaped;
+        }
+    }
+    return uri + "?immutable=1";
+}
+
+// Opens a connection; an immutable one is read-only and takes no locks.
+int openConnection(std::string const& file, int flags, bool immutable, sqlite3*& db) {
+    db = nullptr;
+    int const result = immutable ? sqlite3_open_v2(immutableUri(file).c_str(), &db,
+                                                   SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr)
+                                 : sqlite3_open_v2(file.c_str(), &db, flags, nullptr);
+    if (result != SQLITE_OK) {
+        sqlite3_close(db);
+        db = nullptr;
+    }
+    return result;
+}
+
 }  // namespace
 
 std::shared_ptr<RegistryHive> RegistryHive::open(std::string const& file, bool create,
-                                                 long& error) {
+                                                 HiveJournal journal, long& error) {
     struct stat status {};
     bool const exists = !file.empty() && stat(file.c_str(), &status) == 0;
     if (!exists && (!create || file.empty())) {
@@ -114,20 +161,41 @@ std::shared_ptr<RegistryHive> RegistryHive::open(std::string const& file, bool c
     }
     sqlite3* db = nullptr;
     int const flags = SQLITE_OPEN_READWRITE | (exists ? 0 : SQLITE_OPEN_CREATE);
-    if (sqlite3_open_v2(file.c_str(), &db, flags, nullptr) != SQLITE_OK) {
-        sqlite3_close(db);
+    if (openConnection(file, flags, false, db) != SQLITE_OK) {
         error = exists ? kErrorRegistryIoFailed : kErrorAccessDenied;
         return nullptr;
     }
     // SQLite opens a file it may not write read-only, without failing.
     bool const readOnly = sqlite3_db_readonly(db, "main") == 1;
-    std::shared_ptr<RegistryHive> hive(new RegistryHive(db, file, readOnly));
+    std::shared_ptr<RegistryHive> hive(new RegistryHive(db, file, readOnly, journal));
+    error = hive->configure();
+    if (error != kErrorSuccess && readOnly && isWalWithoutLog(file)) {
+        return openImmutable(file, error);
+    }
+    return error == kErrorSuccess ? hive : nullptr;
+}
+
+// A reader that may not create the log's side files cannot open a database in WAL mode
+// without them; with the log gone the database file holds every committed change, and it is
+// read as it is. A later write by another process is not seen until the hive is opened again.
+std::shared_ptr<RegistryHive> RegistryHive::openImmutable(std::string const& file, long& error) {
+    sqlite3* db = nullptr;
+    if (openConnection(file, SQLITE_OPEN_READONLY, true, db) != SQLITE_OK) {
+        error = kErrorRegistryIoFailed;
+        return nullptr;
+    }
+    std::shared_ptr<RegistryHive> hive(new RegistryHive(db, file, true, HiveJournal::rollback));
+    hive->m_immutable = true;
     error = hive->configure();
     return error == kErrorSuccess ? hive : nullptr;
 }
 
-RegistryHive::RegistryHive(sqlite3* db, std::string file, bool readOnly)
-    : m_db(db), m_file(std::move(file)), m_readOnly(readOnly), m_process(getpid()) {
+RegistryHive::RegistryHive(sqlite3* db, std::string file, bool readOnly, HiveJournal journal)
+    : m_db(db),
+      m_file(std::move(file)),
+      m_readOnly(readOnly),
+      m_journal(journal),
+      m_process(getpid()) {
     identify(m_file, m_device, m_inode);
 }
 
@@ -137,8 +205,7 @@ long RegistryHive::useInThisProcess() {
     }
     sqlite3* db = nullptr;
     int const flags = m_readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    if (sqlite3_open_v2(m_file.c_str(), &db, flags, nullptr) != SQLITE_OK) {
-        sqlite3_close(db);
+    if (openConnection(m_file, flags, m_immutable, db) != SQLITE_OK) {
         return kErrorRegistryIoFailed;
     }
     m_db = db;
@@ -167,19 +234,10 @@ RegistryHive::~RegistryHive() {
     sqlite3_close(m_db);
 }
 
-// WAL lets readers go on while one process writes; synchronous=FULL makes every commit
-// durable before it returns. A writer leaves the WAL's side files in place when it closes:
-// a reader that may not write the hive's folder (a user reading the machine hive written by
-// an administrator) can open the database only while they exist.
 long RegistryHive::configure() {
     sqlite3_busy_timeout(m_db, kRegistryBusyTimeoutMs);
-    if (!m_readOnly) {
-        int persistWal = 1;
-        sqlite3_file_control(m_db, "main", SQLITE_FCNTL_PERSIST_WAL, &persistWal);
-        if (sqliteExecute(m_db, "PRAGMA journal_mode=WAL") != SQLITE_OK ||
-            sqliteExecute(m_db, "PRAGMA synchronous=FULL") != SQLITE_OK) {
-            return kErrorRegistryIoFailed;
-        }
+    if (!m_readOnly && configureJournal() != kErrorSuccess) {
+        return kErrorRegistryIoFailed;
     }
     if (sqliteExecute(m_db, "PRAGMA foreign_keys=ON") != SQLITE_OK) {
         return kErrorRegistryIoFailed;
@@ -198,6 +256,26 @@ long RegistryHive::configure() {
         return kErrorSuccess;
     }
     return m_readOnly ? kErrorRegistryIoFailed : createSchema();
+}
+
+// synchronous=FULL makes every commit durable before it returns. The user's hive keeps its
+// WAL's side files when it closes (PERSIST_WAL), so that its next opening need not make them.
+// The shared hives leave WAL mode: a reader that may not write their folder (a user reading
+// the machine hive an administrator wrote) could open a WAL database only while its side
+// files exist. Leaving WAL mode needs the database to itself; while another process holds it
+// open in WAL mode the switch fails, and a later writer makes it.
+long RegistryHive::configureJournal() {
+    if (m_journal == HiveJournal::writeAhead) {
+        int persistWal = 1;
+        sqlite3_file_control(m_db, "main", SQLITE_FCNTL_PERSIST_WAL, &persistWal);
+        if (sqliteExecute(m_db, "PRAGMA journal_mode=WAL") != SQLITE_OK) {
+            return kErrorRegistryIoFailed;
+        }
+    } else {
+        sqliteExecute(m_db, "PRAGMA journal_mode=DELETE");
+    }
+    return sqliteExecute(m_db, "PRAGMA synchronous=FULL") == SQLITE_OK ? kErrorSuccess
+                                                                       : kErrorRegistryIoFailed;
 }
 
 // Several processes may create the same new database at once; the write lock makes one of

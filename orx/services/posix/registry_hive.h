@@ -32,6 +32,17 @@ struct RegistryData {
     std::string bytes;
 };
 
+// How a hive keeps its transactions.
+enum class HiveJournal {
+    // A write-ahead log (WAL): readers go on while a writer writes. Every reader needs the
+    // log's side files (-wal, -shm), which a reader that may not write the folder cannot
+    // create: for the user's own hive.
+    writeAhead,
+    // A rollback journal that exists only while a write runs: a reader needs nothing but the
+    // database file. For the hives that many users read and few write (machine, classes).
+    rollback,
+};
+
 // The functions return Windows error codes, as the registry calls do.
 class RegistryHive {
 public:
@@ -40,8 +51,12 @@ public:
 
     // Opens the database in `file`. A missing file is created (with its folder) only when
     // `create` is true, else the result is null with error = file not found. A file the
-    // process may not write is opened read-only.
-    static std::shared_ptr<RegistryHive> open(std::string const& file, bool create, long& error);
+    // process may not write is opened read-only. A writer puts the database into the journal
+    // mode asked for (when no other process has it open in WAL mode, which must end first).
+    // A reader of a database left in WAL mode whose side files are gone and cannot be
+    // created reads it as an unchanging snapshot (SQLite's immutable mode).
+    static std::shared_ptr<RegistryHive> open(std::string const& file, bool create,
+                                              HiveJournal journal, long& error);
     ~RegistryHive();
     RegistryHive(RegistryHive const&) = delete;
     RegistryHive& operator=(RegistryHive const&) = delete;
@@ -67,9 +82,11 @@ public:
     long subKeyAt(RegistryKeyId key, std::int64_t index, std::string& name);
 
 private:
-    RegistryHive(sqlite3* db, std::string file, bool readOnly);
+    RegistryHive(sqlite3* db, std::string file, bool readOnly, HiveJournal journal);
     static bool identify(std::string const& file, std::uint64_t& device, std::uint64_t& inode);
+    static std::shared_ptr<RegistryHive> openImmutable(std::string const& file, long& error);
     long configure();
+    long configureJournal();
     long createSchema();
     bool keyExists(RegistryKeyId key);
     // The error for an entry that was not found: the key itself may be gone.
@@ -80,6 +97,8 @@ private:
     std::uint64_t m_device = 0;
     std::uint64_t m_inode = 0;
     bool m_readOnly;
+    HiveJournal m_journal;
+    bool m_immutable = false;
     pid_t m_process;
 };
 

@@ -98,7 +98,8 @@ public:
         std::shared_ptr<RegistryHive>& hive = m_hives[static_cast<int>(kind)];
         std::string const file = hiveFile(kind);
         if (hive == nullptr || !hive->isAt(file)) {
-            std::shared_ptr<RegistryHive> opened = RegistryHive::open(file, forWriting, error);
+            std::shared_ptr<RegistryHive> opened =
+                RegistryHive::open(file, forWriting, journalOf(kind), error);
             if (opened == nullptr) {
                 return error;
             }
@@ -136,6 +137,12 @@ public:
     std::mutex& mutex() { return m_mutex; }
 
 private:
+    // The user's hive is read and written by its user alone; the machine and classes hives
+    // are read by every user, most of whom may not write their folder.
+    static HiveJournal journalOf(HiveKind kind) {
+        return kind == HiveKind::kUser ? HiveJournal::writeAhead : HiveJournal::rollback;
+    }
+
     static bool predefinedKind(HKEY handle, HiveKind& kind) {
         if (handle == classesRoot()) {
             kind = HiveKind::kClasses;

@@ -39,8 +39,24 @@ bool pathExists(std::wstring const& path) {
     return _waccess(path.c_str(), kExistenceOnly) == 0;
 }
 
-void createDirectory(std::wstring const& path) {
+bool entryExists(std::wstring const& path) {
+    // GetFileAttributesW describes a link itself, not its target.
+    if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
+        return true;
+    }
+    DWORD const error = GetLastError();
+    return error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND;
+}
+
+std::wstring userFolderName(wchar_t const* base) {
+    return base;
+}
+
+bool makePrivateDirectory(std::wstring const& path) {
     CreateDirectoryW(path.c_str(), nullptr);
+    DWORD const attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 &&
+           (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
 }
 
 std::wstring temporaryRoot() {
