@@ -1,5 +1,7 @@
 // Where two bulge segments meet, in the frame of their chords.
 #include <cmath>
+
+#include "orx/plane_geometry/internal/finite.h"
 #include <initializer_list>
 #include <utility>
 
@@ -26,13 +28,12 @@ struct Segment {
 
 // The arc lies within the tolerance of the other's circle at its ends and its middle.
 bool onCircleOf(Segment const& s, ArcFrame const& other) {
-    double const t = COrxPoint3d::tol;
-    for (COrxPoint3d const& p : {s.start, s.end, g_bulg_mid(s.start, s.end, s.bulge)}) {
-        if (!(std::fabs(other.circleDistance(other.toFrame(p))) * other.halfChord() <= t)) {
-            return false;
-        }
-    }
-    return true;
+    auto near = [&other](COrxPoint3d const& p) {
+        return std::fabs(other.circleDistance(other.toFrame(p))) * other.halfChord() <=
+               COrxPoint3d::tol;
+    };
+    // The midpoint last: most pairs are told apart by an end.
+    return near(s.start) && near(s.end) && near(g_bulg_mid(s.start, s.end, s.bulge));
 }
 
 // Two arcs of one circle meet in their common end points only: the first's ends that are
@@ -54,7 +55,7 @@ void commonEnds(COrxPoint3dArray& pts, Segment const& a, Segment const& b) {
 // or y for a steep line) grows along it.
 void lineDirection(Segment const& line, double& wx, double& wy) {
     double const dx = line.end.x - line.start.x, dy = line.end.y - line.start.y;
-    double const length = std::hypot(dx, dy);
+    double const length = internal::planLength(dx, dy);
     wx = dx / length;
     wy = dy / length;
     if (std::fabs(dy) <= std::fabs(dx) ? wx < 0.0 : wy < 0.0) {
@@ -149,8 +150,8 @@ bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const&
         if (!p.isValid()) {
             continue;
         }
-        if (extended || (g_bulg_pt_dist(a.start, a.end, a.bulge, p) <= t &&
-                         g_bulg_pt_dist(b.start, b.end, b.bulge, p) <= t)) {
+        if (extended || (arc.halfChord() * arc.distanceToSegment(arc.toFrame(p)) <= t &&
+                         other.halfChord() * other.distanceToSegment(other.toFrame(p)) <= t)) {
             pts.append(p);
         }
     }

@@ -142,9 +142,18 @@ double g_bulg_pt_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge
         return nan();
     }
     if (!frame.valid()) {
-        return p1.isValid() ? std::hypot(p.x - p1.x, p.y - p1.y) : nan();
+        return p1.isValid() ? internal::planLength(p.x - p1.x, p.y - p1.y) : nan();
     }
     return frame.halfChord() * frame.distanceToSegment(frame.toFrame(p));
+}
+
+double g_bulg_circ_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                        COrxPoint3d const& p) {
+    ArcFrame const frame(p1, p2, bulge);
+    if (!frame.valid() || !p.isValid()) {
+        return nan();
+    }
+    return frame.halfChord() * std::fabs(frame.circleDistance(frame.toFrame(p)));
 }
 
 COrxPoint3d g_bulg_lotp(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,

@@ -44,6 +44,11 @@ ORX_API double g_bulg_dist_at(COrxPoint3d const& p1, COrxPoint3d const& p2, doub
 ORX_API double g_bulg_pt_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
                               COrxPoint3d const& p);
 
+// The plan distance from p to the segment's infinite line or full circle; NaN for a segment
+// whose ends coincide and for NaN input.
+ORX_API double g_bulg_circ_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
+                                COrxPoint3d const& p);
+
 // The foot of p on the segment's infinite line, or on its full circle (radially); p1 for a
 // segment whose ends coincide.
 ORX_API COrxPoint3d g_bulg_lotp(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,

@@ -2,13 +2,15 @@
 
 #include <cmath>
 
+#include "orx/plane_geometry/internal/finite.h"
+
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"
 
 namespace ORX {
 
 double g_dist2d(COrxPoint3d const& p, COrxPoint3d const& q) {
-    return std::hypot(q.x - p.x, q.y - p.y);
+    return internal::planLength(q.x - p.x, q.y - p.y);
 }
 
 COrxPoint3d g_midp3d(COrxPoint3d const& p, COrxPoint3d const& q) {

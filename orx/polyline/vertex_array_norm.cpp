@@ -14,6 +14,8 @@ bool collapsed(COrxVertex const& v) {
 COrxVertexArray& COrxVertexArray::norm(bool keepStart) {
     // 1. Drop zero-length segments.
     COrxVertexArray work;
+    work.setLogicalLength(len());  // room for all, without growing step by step
+    work.setLogicalLength(0);
     for (int k = 0; k < len(); ++k) {
         if (!collapsed(m_vertices[k])) {
             work.append(m_vertices[k]);
@@ -30,31 +32,20 @@ COrxVertexArray& COrxVertexArray::norm(bool keepStart) {
     //    the last segment), so that a collinear run across the seam stays in one piece.
     int start = 0;
     if (!keepStart) {
-        ORX::internal::RunMerger seam(work.m_vertices[n - 1]);
-        while (start < n && seam.tryAppend(work.m_vertices[start])) {
-            ++start;
-            if (collapsed(seam.merged())) {
-                break;
-            }
-        }
+        start = ORX::internal::longestRun(work, n - 1, n).count - 1;
     }
     // 3. Rebuild from there, merging each run into one segment while every vertex it drops
     //    stays within the tolerance of the merged segment (segments that do not meet are
     //    never merged, so the separate loops of one polyline stay apart).
     setLogicalLength(0);
     bool anyCollapsed = false;
-    for (int i = 0; i < n; ++i) {
-        ORX::internal::RunMerger run(work.m_vertices[(i + start) % n]);
-        while (i < n - 1 && run.tryAppend(work.m_vertices[(i + start + 1) % n])) {
-            ++i;
-            if (collapsed(run.merged())) {
-                break;
-            }
-        }
-        if (collapsed(run.merged())) {
+    for (int i = 0; i < n;) {
+        ORX::internal::Run const run = ORX::internal::longestRun(work, (i + start) % n, n - i);
+        i += run.count;
+        if (collapsed(run.merged)) {
             anyCollapsed = true;
         } else {
-            append(run.merged());
+            append(run.merged);
         }
     }
     // 4. A collapse may have brought new neighbours together: again until stable.

@@ -92,7 +92,8 @@ bool COrxVertex::coLinear(COrxVertex const& other) const {
 
 bool COrxVertex::onCircleOf(COrxVertex const& other) const {
     for (COrxPoint3d const& p : {m_start, m_end, mid()}) {
-        if (!(other.lotp(p) == p)) {
+        if (!(ORX::g_bulg_circ_dist(other.m_start, other.m_end, other.m_bulge, p) <=
+              COrxPoint3d::tol)) {
             return false;
         }
     }

@@ -2,6 +2,7 @@
 // point-in-polyline test, selection of the pieces, chaining, normalisation.
 #include "orx/regions/bool_operation.h"
 
+#include "orx/regions/internal/chaining.h"
 #include "orx/regions/internal/indexed_polyline.h"
 #include "orx/regions/internal/overlay.h"
 #include "orx/regions/internal/pair_cutting.h"
@@ -22,23 +23,7 @@ bool g_vl_pt_inside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
 }
 
 void g_vl_sort(COrxVertexArray& vl) {
-    int const n = vl.len();
-    for (int i = 1; i < n; ++i) {
-        COrxVertex& before = vl[i - 1];
-        int follower = i;
-        while (follower < n && vl[follower].startPoint() != before.endPoint()) {
-            ++follower;
-        }
-        if (follower == n) {
-            continue;  // no segment starts here: segment i begins a new chain
-        }
-        before.set(before.startPoint(), vl[follower].startPoint(), before.bulge());
-        if (follower != i) {
-            COrxVertex const moved = vl[follower];
-            vl[follower] = vl[i];
-            vl[i] = moved;
-        }
-    }
+    internal::chainHeadToTail(vl);
 }
 
 COrxVertexArray g_vl_bool(COrxVertexArray a, COrxVertexArray b, COrxVertexArray::boolOper op) {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "orx/plane_geometry/internal/finite.h"
+
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/internal/curve.h"
 
@@ -33,7 +35,7 @@ void curvatureTerms(double bulge, double& kappa, double& gamma) {
 
 ArcFrame::ArcFrame(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) : m_b(bulge) {
     double const dx = end.x - start.x, dy = end.y - start.y;
-    double const chord = std::hypot(dx, dy);
+    double const chord = planLength(dx, dy);
     m_valid = chord > 0.0 && std::isfinite(chord) && std::isfinite(bulge) &&
               std::isfinite(start.z) && std::isfinite(end.z);
     m_h = chord / 2;
@@ -114,7 +116,7 @@ double ArcFrame::distanceToSegment(FramePoint const& q) const {
     if (inSweep(q)) {
         return std::fabs(circleDistance(q));
     }
-    return std::fmin(std::hypot(q.x + 1, q.y), std::hypot(q.x - 1, q.y));
+    return std::fmin(planLength(q.x + 1, q.y), planLength(q.x - 1, q.y));
 }
 
 FramePoint ArcFrame::foot(FramePoint const& q) const {

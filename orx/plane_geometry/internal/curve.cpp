@@ -1,6 +1,8 @@
 #include "orx/plane_geometry/internal/curve.h"
 
 #include <cmath>
+
+#include "orx/plane_geometry/internal/finite.h"
 #include <utility>
 
 namespace ORX {
@@ -68,7 +70,7 @@ double curveDistance(Curve const& c, double x, double y) {
 
 void curveFoot(Curve const& c, double& x, double& y) {
     double const gx = 2 * c.a * x + c.lx, gy = 2 * c.a * y + c.ly;
-    double const length = std::hypot(gx, gy);
+    double const length = planLength(gx, gy);
     double const d = curveDistance(c, x, y);
     if (length == 0.0) {
         x -= d;  // at the centre every point of the circle is as near: take the one in +x

@@ -28,6 +28,17 @@ inline double finiteOrNan(double value) {
     return std::isfinite(value) ? value : ORX::nan();
 }
 
+// The length of the plan vector (dx, dy): the square root of the sum of squares where that
+// cannot overflow or underflow (it is several times faster), hypot beyond.
+inline double planLength(double dx, double dy) {
+    double const big = 1e150, small = 1e-150;
+    double const ax = std::fabs(dx), ay = std::fabs(dy);
+    if (ax < big && ay < big && (ax > small || ay > small || (ax == 0.0 && ay == 0.0))) {
+        return std::sqrt(dx * dx + dy * dy);
+    }
+    return std::hypot(dx, dy);
+}
+
 inline COrxPoint3d nanPoint() {
     return COrxPoint3d(ORX::nan(), ORX::nan(), ORX::nan());
 }

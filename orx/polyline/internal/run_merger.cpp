@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <vector>
 
+#include "orx/geom/functions.h"
 #include "orx/plane_geometry/bulge_segment.h"
 
 namespace ORX {
@@ -15,98 +17,143 @@ double angleOf(COrxVertex const& v) {
     return 4 * std::atan(v.bulge());
 }
 
-}  // namespace
+// The window of directions from a straight run's start that pass within the tolerance of
+// every dropped vertex, and the farthest of them: a merged segment through the window that
+// reaches that far keeps them all.
+class StraightRun {
+public:
+    explicit StraightRun(COrxVertex const& first) : m_merged(first) {
+        double const dx = first.endPoint().x - first.startPoint().x;
+        double const dy = first.endPoint().y - first.startPoint().y;
+        double const length = std::hypot(dx, dy);
+        if (length > 0.0 && std::isfinite(length)) {
+            m_refX = dx / length;
+            m_refY = dy / length;
+        }
+    }
 
-RunMerger::RunMerger(COrxVertex const& first)
-    : m_merged(first),
-      m_refX(1.0),
-      m_refY(0.0),
-      m_low(-std::numeric_limits<double>::infinity()),
-      m_high(std::numeric_limits<double>::infinity()),
-      m_reach(0.0),
-      m_angle(angleOf(first)) {
-    double const dx = first.endPoint().x - first.startPoint().x;
-    double const dy = first.endPoint().y - first.startPoint().y;
-    double const length = std::hypot(dx, dy);
-    if (length > 0.0 && std::isfinite(length)) {
-        m_refX = dx / length;
-        m_refY = dy / length;
+    bool tryAppend(COrxVertex const& next) {
+        COrxVertex const candidate = m_merged.unite(next);
+        COrxPoint3d const& start = m_merged.startPoint();
+        COrxPoint3d const& dropped = next.startPoint();
+        COrxPoint3d const& end = candidate.endPoint();
+        double low = m_low, high = m_high, reach = m_reach;
+        double const rho = std::hypot(dropped.x - start.x, dropped.y - start.y);
+        if (rho > COrxPoint3d::tol) {
+            double const at = direction(dropped);
+            double const spread = std::asin(COrxPoint3d::tol / rho);
+            low = std::max(low, at - spread);
+            high = std::min(high, at + spread);
+            reach = std::max(reach, rho);
+        }
+        double const towards = direction(end);
+        if (!(std::hypot(end.x - start.x, end.y - start.y) >= reach && towards >= low &&
+              towards <= high)) {
+            return false;
+        }
+        m_low = low;
+        m_high = high;
+        m_reach = reach;
+        m_merged = candidate;
+        return true;
     }
-}
 
-bool RunMerger::tryAppend(COrxVertex const& next) {
-    if (!continues(next)) {
-        return false;
-    }
-    if (!m_merged.isStraight()) {
-        return appendArc(next);
-    }
-    COrxVertex const candidate = m_merged.unite(next);
-    if (!keepsStraightRun(next.startPoint(), candidate.endPoint())) {
-        return false;
-    }
-    m_merged = candidate;
-    return true;
-}
+    COrxVertex const& merged() const { return m_merged; }
 
-// Starts where the run ends, on the same line or circle; arcs are not merged when together
-// they would close the whole circle, which one bulge cannot express.
-bool RunMerger::continues(COrxVertex const& next) const {
-    if (m_merged.endPoint() != next.startPoint() || !m_merged.coLinear(next)) {
-        return false;
-    }
-    return m_merged.isStraight() || next.endPoint() != m_merged.startPoint();
-}
-
-// The merged segment runs from the run's start to `end`; it keeps every dropped vertex
-// within the tolerance when its direction passes within the tolerance of each (a window of
-// directions, narrowed by each dropped vertex) and it reaches at least as far as the
-// farthest of them.
-bool RunMerger::keepsStraightRun(COrxPoint3d const& dropped, COrxPoint3d const& end) {
-    COrxPoint3d const& start = m_merged.startPoint();
-    auto direction = [&](COrxPoint3d const& p) {
+private:
+    // The direction of p from the run's start, relative to the first segment's.
+    double direction(COrxPoint3d const& p) const {
+        COrxPoint3d const& start = m_merged.startPoint();
         double const dx = p.x - start.x, dy = p.y - start.y;
         return std::atan2(m_refX * dy - m_refY * dx, m_refX * dx + m_refY * dy);
-    };
-    double low = m_low, high = m_high, reach = m_reach;
-    double const rho = std::hypot(dropped.x - start.x, dropped.y - start.y);
-    if (rho > COrxPoint3d::tol) {
-        double const at = direction(dropped);
-        double const spread = std::asin(COrxPoint3d::tol / rho);
-        low = std::max(low, at - spread);
-        high = std::min(high, at + spread);
-        reach = std::max(reach, rho);
     }
-    double const towards = direction(end);
-    if (!(std::hypot(end.x - start.x, end.y - start.y) >= reach && towards >= low &&
-          towards <= high)) {
+
+    COrxVertex m_merged;
+    double m_refX = 1.0, m_refY = 0.0;
+    double m_low = -std::numeric_limits<double>::infinity();
+    double m_high = std::numeric_limits<double>::infinity();
+    double m_reach = 0.0;
+};
+
+// next continues the run that ends with `last` and began at `start`.
+bool continues(COrxVertex const& last, COrxVertex const& next, COrxPoint3d const& start) {
+    if (last.endPoint() != next.startPoint() || !last.coLinear(next)) {
         return false;
     }
-    m_low = low;
-    m_high = high;
-    m_reach = reach;
-    return true;
+    return last.isStraight() || next.endPoint() != start;
 }
 
-// The merged arc turns through the pieces' angles together; it must pass within the
-// tolerance of every vertex the run drops.
-bool RunMerger::appendArc(COrxVertex const& next) {
-    if (static_cast<int>(m_dropped.size()) + 2 > kMaxArcRun) {
-        return false;
-    }
-    double const angle = m_angle + angleOf(next);
-    COrxVertex candidate(m_merged.startPoint(), next.endPoint(), std::tan(angle / 4));
-    m_dropped.push_back(next.startPoint());
-    for (COrxPoint3d const& p : m_dropped) {
+struct Sequence {
+    COrxVertexArray const& work;
+    int first;
+    COrxVertex const& at(int k) const { return work[(first + k) % work.len()]; }
+};
+
+// The arc that merges the first `count` segments of the sequence, when it keeps every
+// dropped vertex within the tolerance.
+bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
+    COrxVertex candidate(s.at(0).startPoint(), s.at(count - 1).endPoint(), std::tan(angle / 4));
+    for (int k = 1; k < count; ++k) {
+        COrxPoint3d const& p = s.at(k).startPoint();
         if (!(g_bulg_pt_dist(candidate.startPoint(), candidate.endPoint(), candidate.bulge(), p) <=
               COrxPoint3d::tol)) {
-            m_dropped.pop_back();
             return false;
         }
     }
-    m_merged = candidate.setTag(m_merged.tag());
-    m_angle = angle;
+    merged = candidate.setTag(s.at(0).tag());
     return true;
+}
+
+Run arcRun(Sequence const& s, int maxCount) {
+    std::vector<double> angles{angleOf(s.at(0))};  // prefix sums of the pieces' angles
+    int count = 1;
+    while (count < maxCount && continues(s.at(count - 1), s.at(count), s.at(0).startPoint())) {
+        double const angle = angles.back() + angleOf(s.at(count));
+        if (!(std::fabs(angle) < kTwoPi)) {
+            break;
+        }
+        angles.push_back(angle);
+        ++count;
+    }
+    Run run{1, s.at(0)};
+    if (count == 1 || mergedArc(s, count, angles[static_cast<std::size_t>(count - 1)], run.merged)) {
+        run.count = count;
+        return run;
+    }
+    // Some dropped vertex lies off the whole run's arc: the longest shorter run that keeps
+    // them all, found by halving.
+    int good = 1, bad = count;
+    while (bad - good > 1) {
+        int const middle = (good + bad) / 2;
+        COrxVertex merged;
+        if (mergedArc(s, middle, angles[static_cast<std::size_t>(middle - 1)], merged)) {
+            good = middle;
+            run.merged = merged;
+        } else {
+            bad = middle;
+        }
+    }
+    run.count = good;
+    return run;
+}
+
+}  // namespace
+
+Run longestRun(COrxVertexArray const& work, int first, int maxCount) {
+    Sequence const s{work, first};
+    if (!s.at(0).isStraight()) {
+        return arcRun(s, maxCount);
+    }
+    StraightRun straight(s.at(0));
+    int count = 1;
+    while (count < maxCount && continues(straight.merged(), s.at(count), s.at(0).startPoint()) &&
+           straight.tryAppend(s.at(count))) {
+        ++count;
+        if (straight.merged().startPoint() == straight.merged().endPoint()) {
+            break;
+        }
+    }
+    return {count, straight.merged()};
 }
 
 }  // namespace internal

@@ -127,6 +127,8 @@ COrxVertexArray overlayPieces(Loops const& loopsA, Loops const& loopsB, OverlayO
     PieceMatcher const matcher(nearB);
     std::vector<char> matched(nearB.size(), 0);
     COrxVertexArray kept;
+    kept.setLogicalLength(static_cast<int>(areaA.size() + areaB.size()));  // room for all
+    kept.setLogicalLength(0);
     classify(a, areaB, [&](COrxVertex const& piece, bool near, bool inside) {
         bool same = false, opposite = false;
         if (near) {
@@ -158,8 +160,9 @@ Loops closedLoops(COrxVertexArray pieces) {
             continue;
         }
         COrxVertexArray chain;
+        chain.setLogicalLength(k - begin);
         for (int i = begin; i < k; ++i) {
-            chain.append(pieces[i]);
+            chain[i - begin] = pieces[i];
         }
         begin = k;
         chain.norm(false);

@@ -56,7 +56,7 @@ std::size_t PairCutter::PlanHash::operator()(Plan const& p) const {
 }
 
 PairCutter::PairCutter(PieceLoop& a, PieceLoop& b, int mode)
-    : m_a(a), m_b(b), m_snap((mode & 2) != 0) {
+    : m_a(a), m_b(b), m_mode(mode), m_snap((mode & 2) != 0) {
     for (int r = 0; r < a.size(); ++r) {
         pin(a.piece(r).startPoint());
         pin(a.piece(r).endPoint());
@@ -104,10 +104,38 @@ void PairCutter::snapEndOnto(int q, COrxPoint3d const& cut) {
     }
 }
 
-bool PairCutter::cutFirst(int r, int q) {
+// The points where the pair meets that are not ends of `own`, as intersectWith gives them
+// with kSkipOwnEnds or kSkipOtherEnds: the unfiltered points, computed once, serve both cuts.
+void PairCutter::filtered(COrxVertex const& own) {
+    m_pts.setLogicalLength(0);
+    for (int k = 0; k < m_met.len(); ++k) {
+        COrxPoint3d const& p = m_met[k];
+        if (p != own.startPoint() && p != own.endPoint()) {
+            m_pts.append(p);
+        }
+    }
+}
+
+bool PairCutter::step(int r, int q) {
+    m_a.piece(r).intersectWith(m_met, m_b.piece(q), 0);
+    bool movedB = false;
+    if ((m_mode & 1) && cutFirst(r, q, movedB)) {
+        return true;
+    }
+    if (!(m_mode & 2)) {
+        return false;
+    }
+    if (movedB) {
+        m_a.piece(r).intersectWith(m_met, m_b.piece(q), 0);
+    }
+    return cutSecond(r, q);
+}
+
+bool PairCutter::cutFirst(int r, int q, bool& movedB) {
     COrxVertex const w = m_a.piece(r);
     int added = 0;
-    if (w.intersectWith(m_pts, m_b.piece(q), COrxVertex::kSkipOwnEnds)) {
+    filtered(w);
+    if (!m_pts.isEmpty()) {
         for (int k = 0; k < m_pts.len(); ++k) {
             if (m_a.cut(r, m_pts[k], added)) {
                 COrxPoint3d const cut = m_a.piece(r).endPoint();
@@ -130,6 +158,7 @@ bool PairCutter::cutFirst(int r, int q) {
     if (m_snap && !pinned(s)) {
         moveStart(q, cutIt ? m_a.piece(r).endPoint()
                            : (nearerToStart(w, s) ? w.startPoint() : w.endPoint()));
+        movedB = true;
     }
     return cutIt;
 }
@@ -152,7 +181,8 @@ bool PairCutter::cutSecondAt(int q, COrxPoint3d const& p, bool anywhere) {
 
 bool PairCutter::cutSecond(int r, int q) {
     COrxVertex const w = m_a.piece(r);
-    if (w.intersectWith(m_pts, m_b.piece(q), COrxVertex::kSkipOtherEnds)) {
+    filtered(m_b.piece(q));
+    if (!m_pts.isEmpty()) {
         for (int k = 0; k < m_pts.len(); ++k) {
             if (cutSecondAt(q, onEndOf(w, m_pts[k]), false)) {
                 return true;
@@ -213,8 +243,11 @@ void cutOperands(PieceLoop& a, PieceLoop& b, int mode, std::vector<char>* nearA,
                     (*nearB)[static_cast<std::size_t>(c)] = 1;
                 }
                 for (int q = c; budget > 0; q = b.next(q)) {
-                    while (budget > 0 && (((mode & 1) && cutter.cutFirst(r, q)) ||
-                                          ((mode & 2) && cutter.cutSecond(r, q)))) {
+                    // Pieces whose boxes are apart cannot meet: testing them would change
+                    // nothing.
+                    while (budget > 0 &&
+                           mayOverlap(segmentBox(a.piece(r)), segmentBox(b.piece(q))) &&
+                           cutter.step(r, q)) {
                         --budget;  // the same pair again
                     }
                     if (b.next(q) == b.endOf(c)) {

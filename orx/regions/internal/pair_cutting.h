@@ -38,14 +38,18 @@ class PairCutter {
 public:
     PairCutter(PieceLoop& a, PieceLoop& b, int mode);
 
-    // Cuts piece r of a where piece q of b crosses or touches it, or where q starts on its
-    // interior; true when r was cut.
-    bool cutFirst(int r, int q);
+    // One test of the pair (piece r of a, piece q of b): a cut of r (cutFirst) or else of q
+    // (cutSecond), as the mode allows; true when one was cut (the pair is tested again).
+    bool step(int r, int q);
+
+private:
+    // Cuts piece r of a where piece q of b crosses or touches it (`met`, the points where
+    // the two meet), or where q starts on its interior; true when r was cut.
+    bool cutFirst(int r, int q, bool& movedB);
     // Cuts piece q of b where piece r of a crosses or touches it, or where r starts on it, at
     // a's point exactly; true when q was cut.
     bool cutSecond(int r, int q);
 
-private:
     using Plan = std::pair<double, double>;
     struct PlanHash {
         std::size_t operator()(Plan const& p) const;
@@ -56,10 +60,14 @@ private:
     void moveStart(int q, COrxPoint3d const& p);
     void moveEnd(int q, COrxPoint3d const& p);
     bool cutSecondAt(int q, COrxPoint3d const& p, bool anywhere);
+    // m_pts: the meeting points that are not ends of `own`.
+    void filtered(COrxVertex const& own);
 
     PieceLoop& m_a;
     PieceLoop& m_b;
+    int m_mode;
     bool m_snap;
+    COrxPoint3dArray m_met;  // where the pair meets, without filtering
     std::unordered_set<Plan, PlanHash> m_aVertices;  // a's vertices, exactly
     COrxPoint3dArray m_pts;
 };

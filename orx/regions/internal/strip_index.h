@@ -28,6 +28,7 @@ public:
     // Some segment holds p within the point tolerance (COrxVertex::isPoint).
     bool onBoundary(COrxPoint3d const& p) const;
     bool empty() const { return m_segments.empty(); }
+    std::size_t size() const { return m_segments.size(); }
 
 private:
     int stripOf(double y) const;
