@@ -1,9 +1,9 @@
 // Where two bulge segments meet, in the frame of their chords.
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
 #include <initializer_list>
 #include <utility>
+#include "orx/plane_geometry/internal/finite.h"
 
 #include "orx/plane_geometry/bulge_segment.h"
 #include "orx/plane_geometry/bulges.h"

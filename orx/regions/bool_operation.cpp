@@ -39,19 +39,12 @@ COrxVertexArray g_vl_bool(COrxVertexArray a, COrxVertexArray b, COrxVertexArray:
     if (op == COrxVertexArray::boolDiff) {
         b.revert();
     }
-    internal::Loops first, second;
-    first.append(a);
-    second.append(b);
     internal::OverlayOp const overlay =
         op == COrxVertexArray::boolUnion  ? internal::OverlayOp::kUnion
         : op == COrxVertexArray::boolDiff ? internal::OverlayOp::kDifference
                                           : internal::OverlayOp::kIntersection;
-    internal::Loops const loops =
-        internal::closedLoops(internal::overlayPieces(first, second, overlay));
     COrxVertexArray result;
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        result += loops[static_cast<int>(k)];
-    }
+    internal::appendClosedLoops(internal::overlayPieces({&a}, {&b}, overlay), result);
     return result;
 }
 

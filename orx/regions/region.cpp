@@ -130,7 +130,8 @@ bool regionOperation(Region& a, Region& b, RegionList& out, RegionOp op) {
                                         : op == RegionOp::kDiff
                                             ? internal::OverlayOp::kDifference
                                             : internal::OverlayOp::kIntersection;
-    out = groupBySense(internal::closedLoops(internal::overlayPieces(a, b, overlay)),
+    out = groupBySense(internal::closedLoops(internal::overlayPieces(internal::refsOf(a),
+                                                                     internal::refsOf(b), overlay)),
                        counterClockwise);
     return true;
 }

@@ -52,8 +52,8 @@ bool ArcFrame::flat() const {
     return std::fabs(m_b) < kFlatBulge;
 }
 
-FramePoint ArcFrame::toFrame(COrxPoint3d const& p) const {
-    double const rx = p.x - m_mx, ry = p.y - m_my;
+FramePoint ArcFrame::toFrame(double x, double y) const {
+    double const rx = x - m_mx, ry = y - m_my;
     return {(rx * m_ux + ry * m_uy) / m_h, (ry * m_ux - rx * m_uy) / m_h};
 }
 

@@ -46,7 +46,8 @@ public:
     // The chord and the arc coincide for every formula here.
     bool flat() const;
 
-    FramePoint toFrame(COrxPoint3d const& p) const;
+    FramePoint toFrame(COrxPoint3d const& p) const { return toFrame(p.x, p.y); }
+    FramePoint toFrame(double x, double y) const;
     // The world point of a frame point, at the height of the chord midpoint.
     COrxPoint3d toWorld(FramePoint const& q) const;
     // The world vector of a frame vector (plan), in drawing units.

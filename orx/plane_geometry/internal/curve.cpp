@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
 #include <utility>
+#include "orx/plane_geometry/internal/finite.h"
 
 namespace ORX {
 namespace internal {

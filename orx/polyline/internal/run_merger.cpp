@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/bulge_segment.h"
+#include "orx/plane_geometry/internal/arc_frame.h"
 
 namespace ORX {
 namespace internal {
@@ -93,10 +93,11 @@ struct Sequence {
 // dropped vertex within the tolerance.
 bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
     COrxVertex candidate(s.at(0).startPoint(), s.at(count - 1).endPoint(), std::tan(angle / 4));
+    ArcFrame const frame(candidate.startPoint(), candidate.endPoint(), candidate.bulge());
     for (int k = 1; k < count; ++k) {
         COrxPoint3d const& p = s.at(k).startPoint();
-        if (!(g_bulg_pt_dist(candidate.startPoint(), candidate.endPoint(), candidate.bulge(), p) <=
-              COrxPoint3d::tol)) {
+        if (!frame.valid() ||
+            !(frame.halfChord() * frame.distanceToSegment(frame.toFrame(p)) <= COrxPoint3d::tol)) {
             return false;
         }
     }
@@ -116,7 +117,8 @@ Run arcRun(Sequence const& s, int maxCount) {
         ++count;
     }
     Run run{1, s.at(0)};
-    if (count == 1 || mergedArc(s, count, angles[static_cast<std::size_t>(count - 1)], run.merged)) {
+    if (count == 1 ||
+        mergedArc(s, count, angles[static_cast<std::size_t>(count - 1)], run.merged)) {
         run.count = count;
         return run;
     }

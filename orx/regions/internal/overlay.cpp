@@ -19,9 +19,9 @@ namespace {
 // One operand under cutting: its loops' pieces, and which original segments came near the
 // other operand.
 struct Operand {
-    explicit Operand(Loops const& loops) {
-        for (unsigned long k = 0; k < loops.len(); ++k) {
-            COrxVertexArray const& loop = loops[static_cast<int>(k)];
+    explicit Operand(LoopRefs const& loops) {
+        for (COrxVertexArray const* each : loops) {
+            COrxVertexArray const& loop = *each;
             pieces.emplace_back(loop);
             near.emplace_back(static_cast<std::size_t>(loop.len()), 0);
             boxes.push_back(loopBox(loop));
@@ -119,7 +119,15 @@ void classify(Operand const& from, StripIndex const& other, Decide decide) {
 
 }  // namespace
 
-COrxVertexArray overlayPieces(Loops const& loopsA, Loops const& loopsB, OverlayOp op) {
+LoopRefs refsOf(Loops const& loops) {
+    LoopRefs refs;
+    for (unsigned long k = 0; k < loops.len(); ++k) {
+        refs.push_back(&loops[static_cast<int>(k)]);
+    }
+    return refs;
+}
+
+COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, OverlayOp op) {
     Operand a(loopsA), b(loopsB);
     cutAll(a, b);
     StripIndex const areaA(a.piecesNear(true)), areaB(b.piecesNear(true));
@@ -151,15 +159,18 @@ COrxVertexArray overlayPieces(Loops const& loopsA, Loops const& loopsB, OverlayO
     return kept;
 }
 
-Loops closedLoops(COrxVertexArray pieces) {
+namespace {
+
+// Calls take(chain) for every chain of the chained pieces that closes, normalised.
+template <class Take>
+void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
     g_vl_sort(pieces);
-    Loops loops;
     int begin = 0;
+    COrxVertexArray chain;
     for (int k = 1; k <= pieces.len(); ++k) {
         if (k < pieces.len() && pieces[k].startPoint() == pieces[k - 1].endPoint()) {
             continue;
         }
-        COrxVertexArray chain;
         chain.setLogicalLength(k - begin);
         for (int i = begin; i < k; ++i) {
             chain[i - begin] = pieces[i];
@@ -167,10 +178,21 @@ Loops closedLoops(COrxVertexArray pieces) {
         begin = k;
         chain.norm(false);
         if (chain.isClosed()) {
-            loops.append(chain);
+            take(chain);
         }
     }
+}
+
+}  // namespace
+
+Loops closedLoops(COrxVertexArray pieces) {
+    Loops loops;
+    forEachClosedLoop(pieces, [&loops](COrxVertexArray const& loop) { loops.append(loop); });
     return loops;
+}
+
+void appendClosedLoops(COrxVertexArray pieces, COrxVertexArray& out) {
+    forEachClosedLoop(pieces, [&out](COrxVertexArray const& loop) { out += loop; });
 }
 
 bool allFinite(COrxVertexArray const& vl) {

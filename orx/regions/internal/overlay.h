@@ -18,6 +18,8 @@
 #ifndef ORX_REGIONS_INTERNAL_OVERLAY_H
 #define ORX_REGIONS_INTERNAL_OVERLAY_H
 
+#include <vector>
+
 #include "orx/foundation/array_templ.h"
 #include "orx/polyline/vertex_array.h"
 
@@ -25,6 +27,10 @@ namespace ORX {
 namespace internal {
 
 using Loops = COrxArrayTempl<COrxVertexArray>;
+using LoopRefs = std::vector<COrxVertexArray const*>;
+
+// The loops of a list, by reference.
+LoopRefs refsOf(Loops const& loops);
 
 enum class OverlayOp { kUnion, kDifference, kIntersection };
 
@@ -33,12 +39,14 @@ enum class OverlayOp { kUnion, kDifference, kIntersection };
 // of testing every piece on its own, but tests only the pieces near the other operand one by
 // one: a run of pieces that stay away from the other operand lies on one side of it, so the
 // first piece of the run answers for all.
-COrxVertexArray overlayPieces(Loops const& a, Loops const& b, OverlayOp op);
+COrxVertexArray overlayPieces(LoopRefs const& a, LoopRefs const& b, OverlayOp op);
 
 // Chains pieces head to tail (g_vl_sort) and returns the chains that close, each normalised
 // with norm(false); a chain that does not close is left out, so that a result is always a
 // set of closed loops.
 Loops closedLoops(COrxVertexArray pieces);
+// The same loops appended one after another to `out`.
+void appendClosedLoops(COrxVertexArray pieces, COrxVertexArray& out);
 
 // The operands' own check: every coordinate and bulge is finite.
 bool allFinite(COrxVertexArray const& vl);

@@ -56,19 +56,24 @@ std::size_t PairCutter::PlanHash::operator()(Plan const& p) const {
 }
 
 PairCutter::PairCutter(PieceLoop& a, PieceLoop& b, int mode)
-    : m_a(a), m_b(b), m_mode(mode), m_snap((mode & 2) != 0) {
-    for (int r = 0; r < a.size(); ++r) {
-        pin(a.piece(r).startPoint());
-        pin(a.piece(r).endPoint());
-    }
-}
+    : m_a(a), m_b(b), m_mode(mode), m_snap((mode & 2) != 0) {}
 
-bool PairCutter::pinned(COrxPoint3d const& p) const {
+// The set of a's vertices is made on the first question: most cuttings never ask.
+bool PairCutter::pinned(COrxPoint3d const& p) {
+    if (!m_pinsMade) {
+        m_pinsMade = true;
+        for (int r = 0; r < m_a.size(); ++r) {
+            pin(m_a.piece(r).startPoint());
+            pin(m_a.piece(r).endPoint());
+        }
+    }
     return m_aVertices.count(Plan(p.x, p.y)) > 0;
 }
 
 void PairCutter::pin(COrxPoint3d const& p) {
-    m_aVertices.insert(Plan(p.x, p.y));
+    if (m_pinsMade) {
+        m_aVertices.insert(Plan(p.x, p.y));
+    }
 }
 
 // Moves the vertex where piece q of b starts to p, with the end of the piece before it when

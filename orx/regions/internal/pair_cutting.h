@@ -54,7 +54,7 @@ private:
     struct PlanHash {
         std::size_t operator()(Plan const& p) const;
     };
-    bool pinned(COrxPoint3d const& p) const;
+    bool pinned(COrxPoint3d const& p);
     void pin(COrxPoint3d const& p);
     void snapEndOnto(int q, COrxPoint3d const& cut);
     void moveStart(int q, COrxPoint3d const& p);
@@ -67,8 +67,9 @@ private:
     PieceLoop& m_b;
     int m_mode;
     bool m_snap;
-    COrxPoint3dArray m_met;  // where the pair meets, without filtering
+    COrxPoint3dArray m_met;                          // where the pair meets, without filtering
     std::unordered_set<Plan, PlanHash> m_aVertices;  // a's vertices, exactly
+    bool m_pinsMade = false;
     COrxPoint3dArray m_pts;
 };
 
