@@ -54,6 +54,9 @@ public:
     // read-only form returns a shared default segment for any index past the end.
     COrxVertex& operator[](int i);
     COrxVertex const& operator[](int i) const;
+    // The segments as one block, len() of them (null when empty): for passes over all
+    // segments that need no index rules.
+    COrxVertex const* data() const { return m_vertices; }
 
     // --- Building and editing ---
     COrxVertexArray& append(COrxVertex const& v);

@@ -3,10 +3,10 @@
 #include "orx/regions/bool_operation.h"
 
 #include "orx/regions/internal/chaining.h"
-#include "orx/regions/internal/indexed_polyline.h"
 #include "orx/regions/internal/overlay.h"
 #include "orx/regions/internal/pair_cutting.h"
 #include "orx/regions/internal/piece_loop.h"
+#include "orx/regions/internal/ray_test.h"
 
 namespace ORX {
 
@@ -19,7 +19,7 @@ bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
 }
 
 bool g_vl_pt_inside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
-    return internal::IndexedPolyline(vl).inside(p, onBoundary);
+    return internal::rayInside(vl, p, onBoundary);
 }
 
 void g_vl_sort(COrxVertexArray& vl) {

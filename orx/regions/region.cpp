@@ -6,14 +6,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/geom/tolerance.h"
+#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/internal/segment_grid.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/indexed_polyline.h"
+#include "orx/regions/internal/loop_grouping.h"
 #include "orx/regions/internal/overlay.h"
+#include "orx/regions/internal/ray_test.h"
 #include "orx/regions/internal/winding_index.h"
 
 namespace ORX {
@@ -40,55 +45,6 @@ void revertLoops(Region& region, unsigned long from, unsigned long to) {
     for (unsigned long k = from; k < to && k < region.len(); ++k) {
         region[static_cast<int>(k)].revert();
     }
-}
-
-// A point of the loop that does not lie on `outer`'s boundary: the midpoint of its first
-// segment off it (none when the two coincide everywhere).
-bool pointOff(COrxVertexArray const& loop, COrxVertexArray const& outer, COrxPoint3d& p) {
-    for (int k = 0; k < loop.len(); ++k) {
-        if (!outer.isPoint(loop[k].mid())) {
-            p = loop[k].mid();
-            return true;
-        }
-    }
-    return false;
-}
-
-// Groups the closed loops of a result into regions by their sense: the loops that run as the
-// operands' outer loops did are outer loops, the others holes (the operation keeps the area
-// on the same side of every edge). A hole goes to the smallest outer loop around it; a hole
-// that none holds is left out. The holes are turned back to the outer loops' sense.
-RegionList groupBySense(internal::Loops const& loops, bool counterClockwise) {
-    std::vector<int> outer, holes;
-    std::vector<double> size(loops.len());
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        double const area = g_vl_area(loops[static_cast<int>(k)]);
-        size[k] = std::fabs(area);
-        ((area > 0.0) == counterClockwise ? outer : holes).push_back(static_cast<int>(k));
-    }
-    RegionList regions;
-    for (int o : outer) {
-        Region region;
-        regions.append(region.append(loops[o]));
-    }
-    for (int h : holes) {
-        int best = -1;
-        for (std::size_t r = 0; r < outer.size(); ++r) {
-            COrxVertexArray const& candidate = loops[outer[r]];
-            COrxPoint3d p;
-            if (size[static_cast<std::size_t>(outer[r])] > size[static_cast<std::size_t>(h)] &&
-                (best < 0 ||
-                 size[static_cast<std::size_t>(outer[r])] <
-                     size[static_cast<std::size_t>(outer[static_cast<std::size_t>(best)])]) &&
-                pointOff(loops[h], candidate, p) && internal::WindingIndex(candidate).inside(p)) {
-                best = static_cast<int>(r);
-            }
-        }
-        if (best >= 0) {
-            regions[best].append(loops[h].reverse());
-        }
-    }
-    return regions;
 }
 
 void putFirst(RegionList& out, Region const& region) {
@@ -130,9 +86,9 @@ bool regionOperation(Region& a, Region& b, RegionList& out, RegionOp op) {
                                         : op == RegionOp::kDiff
                                             ? internal::OverlayOp::kDifference
                                             : internal::OverlayOp::kIntersection;
-    out = groupBySense(internal::closedLoops(internal::overlayPieces(internal::refsOf(a),
-                                                                     internal::refsOf(b), overlay)),
-                       counterClockwise);
+    out = internal::groupBySense(internal::closedLoops(internal::overlayPieces(
+                                     internal::refsOf(a), internal::refsOf(b), overlay)),
+                                 counterClockwise);
     return true;
 }
 
@@ -147,7 +103,23 @@ void setRefNormal(COrxVector3d const& normal) {
 }
 
 int g_vll_pt_inside(Region const& region, COrxPoint3d const& p) {
-    return internal::IndexedRegion(region).inside(p);
+    if (region.isEmpty()) {
+        return -1;
+    }
+    COrxVertexArray const& outer = region[0];
+    if (!internal::rayInside(outer, p, false)) {
+        return internal::rayInside(outer, p, true) ? 0 : -1;
+    }
+    for (unsigned long h = 1; h < region.len(); ++h) {
+        COrxVertexArray const& hole = region[static_cast<int>(h)];
+        if (internal::rayInside(hole, p, false)) {
+            return -1;
+        }
+        if (internal::rayInside(hole, p, true)) {
+            return 0;
+        }
+    }
+    return 1;
 }
 
 bool g_region_union(Region a, Region b, RegionList& out) {
@@ -206,19 +178,34 @@ COrxArrayTempl<COrxVertexArray> g_vl_vll(COrxVertexArray const& vl) {
 
 RegionList g_vll_region(Region const& loops) {
     int const n = static_cast<int>(loops.len());
-    std::vector<internal::IndexedPolyline> indexed;
-    indexed.reserve(static_cast<std::size_t>(n));
+    // Only a loop whose box holds a point can hold it strictly; each loop that is asked is
+    // indexed once.
+    std::vector<internal::SegmentBox> boxes;
     for (int i = 0; i < n; ++i) {
-        indexed.emplace_back(loops[i]);
+        boxes.push_back(internal::polylineBox(loops[i]));
     }
+    internal::SegmentGrid const grid(boxes);
+    std::vector<std::unique_ptr<internal::IndexedPolyline>> indexed(static_cast<std::size_t>(n));
+    auto holds = [&](int j, COrxPoint3d const& p) {
+        if (!internal::mayContain(boxes[static_cast<std::size_t>(j)], p)) {
+            return false;
+        }
+        std::unique_ptr<internal::IndexedPolyline>& slot = indexed[static_cast<std::size_t>(j)];
+        if (!slot) {
+            slot = std::make_unique<internal::IndexedPolyline>(loops[j]);
+        }
+        return slot->inside(p, false);
+    };
     std::vector<int> depth(static_cast<std::size_t>(n), 0);
+    std::vector<int> near;
     for (int i = 0; i < n; ++i) {
         if (loops[i].len() < 2) {
             continue;
         }
         COrxPoint3d const m = loops[i][0].mid();
-        for (int j = 0; j < n; ++j) {
-            depth[i] += (j != i && indexed[j].inside(m, false)) ? 1 : 0;
+        grid.query(internal::SegmentBox{m.x, m.y, m.x, m.y}, near);
+        for (int j : near) {
+            depth[i] += (j != i && holds(j, m)) ? 1 : 0;
         }
     }
     std::vector<int> outer;
@@ -244,7 +231,7 @@ RegionList g_vll_region(Region const& loops) {
         }
         COrxPoint3d const m = loops[h][0].mid();
         for (int r = static_cast<int>(regions.len()) - 1; r >= 0; --r) {
-            if (indexed[outerLoop[r]].inside(m, false)) {
+            if (holds(outerLoop[r], m)) {
                 regions[r].append(loops[h]);
                 break;
             }

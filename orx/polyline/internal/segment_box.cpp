@@ -107,11 +107,10 @@ SegmentBox segmentBox(COrxVertex const& v) {
     if (!(std::fabs(b) <= 1.0)) {
         return tightBox(v);
     }
+    // The sagitta |b| chord / 2, bounded without a square root by |dx| + |dy| >= chord.
     SegmentBox const box = chordBox(v);
-    double const sagitta =
-        std::fabs(b) *
-        std::hypot(v.endPoint().x - v.startPoint().x, v.endPoint().y - v.startPoint().y) / 2;
-    return widened(box, sagitta);
+    double const dx = v.endPoint().x - v.startPoint().x, dy = v.endPoint().y - v.startPoint().y;
+    return widened(box, std::fabs(b) * (std::fabs(dx) + std::fabs(dy)) / 2);
 }
 
 double pruneMargin(SegmentBox const& box) {
@@ -160,6 +159,19 @@ bool mayCross(SegmentBox const& tight, COrxPoint3d const& p, COrxPoint3d const& 
         }
     }
     return true;  // also when some value was NaN: every comparison above was false
+}
+
+SegmentBox polylineBox(COrxVertexArray const& vl) {
+    SegmentBox box{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
+    for (int k = 0; k < vl.len(); ++k) {
+        SegmentBox const s = segmentBox(vl[k]);
+        if (std::isnan(s.xmin) || std::isnan(s.ymin) || std::isnan(s.xmax) || std::isnan(s.ymax)) {
+            return s;
+        }
+        box = {std::min(box.xmin, s.xmin), std::min(box.ymin, s.ymin), std::max(box.xmax, s.xmax),
+               std::max(box.ymax, s.ymax)};
+    }
+    return box;
 }
 
 std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl) {

@@ -44,6 +44,10 @@ bool mayContain(SegmentBox const& box, COrxPoint3d const& p);
 // False only when the straight segment p-q certainly misses the segment.
 bool mayCross(SegmentBox const& box, COrxPoint3d const& p, COrxPoint3d const& q);
 
+// The box of a whole polyline (of segmentBox); NaN when some segment's is; inverted (min
+// above max) for an empty polyline, so that it overlaps nothing.
+SegmentBox polylineBox(COrxVertexArray const& vl);
+
 // The boxes of all segments of a polyline, in order.
 std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl);
 

@@ -59,30 +59,5 @@ bool IndexedPolyline::inside(COrxPoint3d p, bool onBoundary) const {
     return false;
 }
 
-IndexedRegion::IndexedRegion(COrxArrayTempl<COrxVertexArray> const& region) {
-    m_loops.reserve(region.len());
-    for (unsigned long k = 0; k < region.len(); ++k) {
-        m_loops.emplace_back(region[static_cast<int>(k)]);
-    }
-}
-
-int IndexedRegion::inside(COrxPoint3d const& p) const {
-    if (m_loops.empty()) {
-        return -1;
-    }
-    if (!m_loops[0].inside(p, false)) {
-        return m_loops[0].inside(p, true) ? 0 : -1;
-    }
-    for (std::size_t h = 1; h < m_loops.size(); ++h) {
-        if (m_loops[h].inside(p, false)) {
-            return -1;
-        }
-        if (m_loops[h].inside(p, true)) {
-            return 0;
-        }
-    }
-    return 1;
-}
-
 }  // namespace internal
 }  // namespace ORX

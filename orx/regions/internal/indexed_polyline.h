@@ -32,17 +32,6 @@ private:
     SegmentGrid m_grid;
 };
 
-// A region's loops, indexed; inside() answers as g_vll_pt_inside (1, 0, -1).
-class IndexedRegion {
-public:
-    explicit IndexedRegion(COrxArrayTempl<COrxVertexArray> const& region);
-
-    int inside(COrxPoint3d const& p) const;
-
-private:
-    std::vector<IndexedPolyline> m_loops;
-};
-
 }  // namespace internal
 }  // namespace ORX
 

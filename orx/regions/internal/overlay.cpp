@@ -24,22 +24,8 @@ struct Operand {
             COrxVertexArray const& loop = *each;
             pieces.emplace_back(loop);
             near.emplace_back(static_cast<std::size_t>(loop.len()), 0);
-            boxes.push_back(loopBox(loop));
+            boxes.push_back(polylineBox(loop));
         }
-    }
-
-    static SegmentBox loopBox(COrxVertexArray const& loop) {
-        SegmentBox box{HUGE_VAL, HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
-        for (int k = 0; k < loop.len(); ++k) {
-            SegmentBox const s = segmentBox(loop[k]);
-            if (std::isnan(s.xmin) || std::isnan(s.ymin) || std::isnan(s.xmax) ||
-                std::isnan(s.ymax)) {
-                return s;
-            }
-            box = {std::fmin(box.xmin, s.xmin), std::fmin(box.ymin, s.ymin),
-                   std::fmax(box.xmax, s.xmax), std::fmax(box.ymax, s.ymax)};
-        }
-        return box;
     }
 
     // The pieces near the other operand (all pieces when `all`), loop by loop in polyline

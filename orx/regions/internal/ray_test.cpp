@@ -1,0 +1,119 @@
+#include "orx/regions/internal/ray_test.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "orx/geom/functions.h"
+#include "orx/regions/bool_operation.h"
+
+namespace ORX {
+namespace internal {
+
+namespace {
+
+// The margin of the ray filter: this many point tolerances, and this share of the size of
+// the coordinates for their rounding (as the pruning boxes' margin).
+constexpr double kRayMarginTolerances = 4.0;
+constexpr double kRayMarginRelative = 1e-9;
+
+// The ray from p along the unit direction (ux, uy), and the cheapest test that a segment can
+// neither hold p nor meet the ray: all of it lies farther than the margin to one side of the
+// ray's line, or behind p, and p lies outside its box. An arc up to a half circle lies
+// within its sagitta of its chord, bounded by |b| (|dx| + |dy|) / 2; longer arcs are always
+// tested. The margin covers the tolerances of isPoint and intersectWith and the rounding of
+// the coordinates, as the pruning boxes' does.
+class RayFilter {
+public:
+    RayFilter(COrxPoint3d const& p, double direction)
+        : m_px(p.x),
+          m_py(p.y),
+          m_ux(std::cos(direction)),
+          m_uy(std::sin(direction)),
+          m_fixedMargin(kRayMarginTolerances * COrxPoint3d::tol +
+                        kRayMarginRelative * std::max(std::fabs(p.x), std::fabs(p.y))) {}
+
+    bool mayMatter(COrxVertex const& v) const {
+        double const b = std::fabs(v.bulge());
+        if (!(b <= 1.0)) {
+            return true;  // a longer arc, or a NaN bulge
+        }
+        double const sx = v.startPoint().x - m_px, sy = v.startPoint().y - m_py;
+        double const ex = v.endPoint().x - m_px, ey = v.endPoint().y - m_py;
+        double const reach = b * (std::fabs(ex - sx) + std::fabs(ey - sy)) / 2 + margin(v);
+        // Sides of the ray's line, and positions along it.
+        double const ds = m_ux * sy - m_uy * sx, de = m_ux * ey - m_uy * ex;
+        double const ts = m_ux * sx + m_uy * sy, te = m_ux * ex + m_uy * ey;
+        // Written as plain comparisons, all false for NaN: such a segment matters.
+        bool const offLine = (ds > reach && de > reach) || (ds < -reach && de < -reach) ||
+                             (ts < -reach && te < -reach);
+        if (!offLine) {
+            return true;
+        }
+        // Off the ray: it matters only if it may hold p.
+        return !((sx > reach && ex > reach) || (sx < -reach && ex < -reach) ||
+                 (sy > reach && ey > reach) || (sy < -reach && ey < -reach));
+    }
+
+private:
+    double margin(COrxVertex const& v) const {
+        double const size =
+            std::max(std::max(std::fabs(v.startPoint().x), std::fabs(v.startPoint().y)),
+                     std::max(std::fabs(v.endPoint().x), std::fabs(v.endPoint().y)));
+        return m_fixedMargin + kRayMarginRelative * size;
+    }
+
+    double m_px, m_py, m_ux, m_uy;
+    double m_fixedMargin;  // the tolerances and the rounding of p's coordinates
+};
+
+// 1 inside, 0 outside, -1 restart (the ray met a segment end), 2 on the polyline.
+int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction) {
+    COrxPoint3d const far = polar(p, direction, kPolylineRayLength);
+    COrxVertex const ray(p, far, 0.0);
+    RayFilter const filter(p, direction);
+    COrxPoint3dArray pts;
+    int hits = 0;
+    COrxVertex const* segments = vl.data();
+    for (int k = 0; k < vl.len(); ++k) {
+        COrxVertex const& v = segments[k];
+        if (!filter.mayMatter(v)) {
+            continue;  // neither holds p nor meets the ray
+        }
+        if (v.isPoint(p)) {
+            return 2;
+        }
+        v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
+        for (int n = 0; n < pts.len(); ++n) {
+            if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
+                return -1;
+            }
+        }
+        hits += pts.len();
+    }
+    return hits % 2;
+}
+
+}  // namespace
+
+bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
+    if (vl.len() < 2) {
+        return false;
+    }
+    p.z = vl[0].startPoint().z;
+    double direction = angle(vl[0].mid(), p);
+    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
+        int const parity = rayParity(vl, p, direction);
+        if (parity == 2) {
+            return onBoundary;
+        }
+        if (parity >= 0) {
+            return parity == 1;
+        }
+        direction = std::rand() * kRandomDirectionScale;
+    }
+    return false;
+}
+
+}  // namespace internal
+}  // namespace ORX
