@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "orx/polyline/polyline_functions.h"
 #include "orx/profiles/internal/outline_generators.h"
 
 namespace ORX {
@@ -69,6 +70,33 @@ bool finiteInput(COrxVector3d const& offset, internal::Dims const& dims) {
     return true;
 }
 
+// Every corner and bulge is a number and no segment ends where it starts.
+bool finiteSegmentsWithLength(COrxVertexArray const& outline) {
+    for (int k = 0; k < outline.len(); ++k) {
+        COrxVertex const& v = outline[k];
+        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge()) ||
+            v.startPoint() == v.endPoint()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The outline a generator built is one a caller can use: closed, finite, without a segment
+// of zero length, with a finite area, and wider than the point tolerance on average (twice
+// the area over the perimeter), so that no comparison under that tolerance sees a line.
+// Meaningless dimensions (a zero span, a negative length, a width asked of a vertical base)
+// and offsets so far out that the corners fall together end here as the empty outline.
+bool isSound(COrxVertexArray const& outline) {
+    if (!outline.isClosed() || !finiteSegmentsWithLength(outline)) {
+        return false;
+    }
+    double const area = std::fabs(g_vl_area(outline));
+    double const perimeter = outline.geomLength();
+    return std::isfinite(area) && std::isfinite(perimeter) &&
+           2 * area > COrxPoint3d::tol * perimeter;
+}
+
 }  // namespace
 
 COrxVertexArray g_outline(int type, COrxVector3d const& offset,
@@ -85,7 +113,7 @@ COrxVertexArray g_outline(int type, COrxVector3d const& offset,
             return result;
         }
         result = record.generate(offset, dims);
-        return result;
+        return isSound(result) ? result : COrxVertexArray();
     }
     return result;
 }
