@@ -11,6 +11,7 @@
 #define ORX_POLYLINE_POLYLINE_H
 
 #include "orx/polyline/polyline_functions.h"
+#include "orx/polyline/section_properties.h"
 #include "orx/polyline/vertex.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_array_ex.h"
