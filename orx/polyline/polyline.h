@@ -10,6 +10,7 @@
 #ifndef ORX_POLYLINE_POLYLINE_H
 #define ORX_POLYLINE_POLYLINE_H
 
+#include "orx/polyline/corners.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/polyline/section_properties.h"
 #include "orx/polyline/vertex.h"
