@@ -7,23 +7,10 @@
 #include "orx/polyline/internal/loop_moments.h"
 
 namespace ORX {
-namespace {
-
-bool finiteSegments(COrxVertexArray const& vl) {
-    for (int k = 0; k < vl.len(); ++k) {
-        COrxVertex const& v = vl[k];
-        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
 
 bool g_vl_statics(COrxVertexArray const& vl, double& area, COrxPoint3d& centroid, double& ix,
                   double& iy, double& ixy) {
-    if (!vl.isClosed() || !finiteSegments(vl)) {
+    if (!internal::isFiniteLoop(vl)) {
         return false;
     }
     COrxPoint3d const& origin = vl[0].startPoint();

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "orx/polyline/internal/loop_moments.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/profiles/internal/outline_generators.h"
 
@@ -70,12 +71,10 @@ bool finiteInput(COrxVector3d const& offset, internal::Dims const& dims) {
     return true;
 }
 
-// Every corner and bulge is a number and no segment ends where it starts.
-bool finiteSegmentsWithLength(COrxVertexArray const& outline) {
+// No segment ends where it starts.
+bool segmentsHaveLength(COrxVertexArray const& outline) {
     for (int k = 0; k < outline.len(); ++k) {
-        COrxVertex const& v = outline[k];
-        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge()) ||
-            v.startPoint() == v.endPoint()) {
+        if (outline[k].startPoint() == outline[k].endPoint()) {
             return false;
         }
     }
@@ -88,7 +87,7 @@ bool finiteSegmentsWithLength(COrxVertexArray const& outline) {
 // Meaningless dimensions (a zero span, a negative length, a width asked of a vertical base)
 // and offsets so far out that the corners fall together end here as the empty outline.
 bool isSound(COrxVertexArray const& outline) {
-    if (!outline.isClosed() || !finiteSegmentsWithLength(outline)) {
+    if (!internal::isFiniteLoop(outline) || !segmentsHaveLength(outline)) {
         return false;
     }
     double const area = std::fabs(g_vl_area(outline));

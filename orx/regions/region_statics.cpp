@@ -6,22 +6,6 @@
 #include "orx/polyline/internal/loop_moments.h"
 
 namespace ORX {
-namespace {
-
-bool usableLoop(COrxVertexArray const& loop) {
-    if (!loop.isClosed()) {
-        return false;
-    }
-    for (int k = 0; k < loop.len(); ++k) {
-        COrxVertex const& v = loop[k];
-        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
 
 bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& area,
                       COrxPoint3d& centroid, double& ix, double& iy, double& ixy) {
@@ -32,7 +16,7 @@ bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& are
     internal::AreaMoments total;
     for (int k = 0; k < static_cast<int>(region.len()); ++k) {
         COrxVertexArray const& loop = region[k];
-        if (!usableLoop(loop)) {
+        if (!internal::isFiniteLoop(loop)) {
             return false;
         }
         internal::AreaMoments const m = internal::loopMoments(loop, origin);

@@ -114,6 +114,16 @@ SegmentMoments circularSegmentMoments(double chord, double absBulge) {
                   half / s);
 }
 
+bool isFiniteLoop(COrxVertexArray const& vl) {
+    for (int k = 0; k < vl.len(); ++k) {
+        COrxVertex const& v = vl[k];
+        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
+            return false;
+        }
+    }
+    return vl.isClosed();
+}
+
 AreaMoments loopMoments(COrxVertexArray const& vl, COrxPoint3d const& origin) {
     AreaMoments m;
     for (int k = 0; k < vl.len(); ++k) {

@@ -24,11 +24,15 @@ struct SegmentMoments {
 // The segment of the arc with this chord length and bulge magnitude |bulge| > 0.
 SegmentMoments circularSegmentMoments(double chord, double absBulge);
 
+// The polyline is closed and every point and bulge of it is a finite number: what the
+// integrals below need.
+bool isFiniteLoop(COrxVertexArray const& vl);
+
 // The signed integrals of the polyline's segments about origin, as if it were closed: the
 // chord of every segment as a triangle from origin, plus each arc's circular segment,
 // added for a positive bulge (the arc lies right of its chord) and subtracted for a
 // negative one. A counter-clockwise loop gives a positive area. The caller checks that the
-// polyline is closed and finite.
+// polyline is a finite loop.
 AreaMoments loopMoments(COrxVertexArray const& vl, COrxPoint3d const& origin);
 
 }  // namespace internal
