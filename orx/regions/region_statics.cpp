@@ -7,15 +7,18 @@
 
 namespace ORX {
 
-bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& area,
-                      COrxPoint3d& centroid, double& ix, double& iy, double& ixy) {
+namespace {
+
+template <class Polyline>
+bool regionStatics(COrxArrayTempl<Polyline> const& region, double& area, COrxPoint3d& centroid,
+                   double& ix, double& iy, double& ixy) {
     if (region.isEmpty()) {
         return false;
     }
     COrxPoint3d const origin = region[0][0].startPoint();
     internal::AreaMoments total;
     for (int k = 0; k < static_cast<int>(region.len()); ++k) {
-        COrxVertexArray const& loop = region[k];
+        Polyline const& loop = region[k];
         if (!internal::isFiniteLoop(loop)) {
             return false;
         }
@@ -33,6 +36,18 @@ bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& are
     iy = c.iy;
     ixy = c.ixy;
     return true;
+}
+
+}  // namespace
+
+bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& area,
+                      COrxPoint3d& centroid, double& ix, double& iy, double& ixy) {
+    return regionStatics(region, area, centroid, ix, iy, ixy);
+}
+
+bool g_region_statics(COrxArrayTempl<COrxVertexArrayEx> const& region, double& area,
+                      COrxPoint3d& centroid, double& ix, double& iy, double& ixy) {
+    return regionStatics(region, area, centroid, ix, iy, ixy);
 }
 
 }  // namespace ORX

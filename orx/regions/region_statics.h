@@ -7,6 +7,7 @@
 #include "orx/foundation/platform.h"
 #include "orx/geom/point.h"
 #include "orx/polyline/vertex_array.h"
+#include "orx/polyline/vertex_array_ex.h"
 
 namespace ORX {
 
@@ -18,6 +19,9 @@ namespace ORX {
 // COrxPoint3d::tol squared. Holes are trusted to lie inside the outer loop and apart from
 // each other, as the region operations leave them.
 ORX_API bool g_region_statics(COrxArrayTempl<COrxVertexArray> const& region, double& area,
+                              COrxPoint3d& centroid, double& ix, double& iy, double& ixy);
+// The same for a region of polylines with attributes (the attributes play no part).
+ORX_API bool g_region_statics(COrxArrayTempl<COrxVertexArrayEx> const& region, double& area,
                               COrxPoint3d& centroid, double& ix, double& iy, double& ixy);
 
 }  // namespace ORX

@@ -97,6 +97,13 @@ TEST(RegionStaticsTest, PlateWithHolesIsItsOuterLoopMinusItsHoles) {
     Region const r = region({plate, hole, cut, pocket});
     Statics const want = byParallelAxes(r);
     expectSame(ofRegion(r), want);
+    COrxArrayTempl<COrxVertexArrayEx> withAttributes;
+    for (int k = 0; k < static_cast<int>(r.len()); ++k) {
+        withAttributes.append(COrxVertexArrayEx(r[k]));
+    }
+    Statics ex;
+    ex.ok = ORX::g_region_statics(withAttributes, ex.area, ex.c, ex.ix, ex.iy, ex.ixy);
+    expectSame(ex, want);
 
     Region whole = region({plate});
     for (COrxVertexArray const& h : {hole, cut, pocket}) {
