@@ -82,8 +82,9 @@ bool segmentsHaveLength(COrxVertexArray const& outline) {
 }
 
 // The outline a generator built is one a caller can use: closed, finite, without a segment
-// of zero length, with a finite area, and wider than the point tolerance on average (twice
-// the area over the perimeter), so that no comparison under that tolerance sees a line.
+// of zero length, and wider than the point tolerance on average (twice the area over the
+// perimeter), so that no comparison under that tolerance sees a line. An area beyond the
+// range of doubles (a circle of diameter 1e155) is allowed: the outline itself is exact.
 // Meaningless dimensions (a zero span, a negative length, a width asked of a vertical base)
 // and offsets so far out that the corners fall together end here as the empty outline.
 bool isSound(COrxVertexArray const& outline) {
@@ -92,8 +93,7 @@ bool isSound(COrxVertexArray const& outline) {
     }
     double const area = std::fabs(g_vl_area(outline));
     double const perimeter = outline.geomLength();
-    return std::isfinite(area) && std::isfinite(perimeter) &&
-           2 * area > COrxPoint3d::tol * perimeter;
+    return std::isfinite(perimeter) && 2 * area > COrxPoint3d::tol * perimeter;
 }
 
 }  // namespace

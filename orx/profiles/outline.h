@@ -11,8 +11,8 @@
 // listed below), fewer dimensions than the minimum, a failed validity test, or a dimension
 // or offset that is not finite. Nothing is thrown. Whatever the dimensions, an outline that
 // is returned is closed, has finite corners and bulges, no segment whose ends coincide
-// (point tolerance), a finite area, and is wider than the point tolerance on average (twice
-// its area over its perimeter): finite dimensions that mean nothing (a zero width, a
+// (point tolerance), and is wider than the point tolerance on average (twice its area over
+// its perimeter; the area may exceed the range of doubles): finite dimensions that mean nothing (a zero width, a
 // negative length, an opening narrower than the tolerance) and offsets so far out that the
 // corners fall together give the empty outline instead.
 //
