@@ -81,19 +81,50 @@ bool segmentsHaveLength(COrxVertexArray const& outline) {
     return true;
 }
 
+// Area and length are measured on a copy scaled down by a power of two (exact) so that no
+// coordinate exceeds this: their formulas square coordinates, which would overflow.
+constexpr double kMeasurableCoordinate = 1e50;
+
+// The outline scaled by s (a power of two) about the origin, and s itself: 1 when every
+// coordinate is measurable already.
+COrxVertexArray measurable(COrxVertexArray const& outline, double& s) {
+    double largest = 0.0;
+    for (int k = 0; k < outline.len(); ++k) {
+        COrxPoint3d const& p = outline[k].startPoint();
+        largest = std::fmax(largest, std::fmax(std::fabs(p.x), std::fabs(p.y)));
+    }
+    s = 1.0;
+    if (largest <= kMeasurableCoordinate) {
+        return outline;
+    }
+    s = std::exp2(std::floor(std::log2(kMeasurableCoordinate / largest)));
+    COrxVertexArray scaled;
+    for (int k = 0; k < outline.len(); ++k) {
+        COrxVertex const& v = outline[k];
+        COrxPoint3d const& a = v.startPoint();
+        COrxPoint3d const& b = v.endPoint();
+        scaled.append(COrxVertex(COrxPoint3d(a.x * s, a.y * s, a.z),
+                                 COrxPoint3d(b.x * s, b.y * s, b.z), v.bulge()));
+    }
+    return scaled;
+}
+
 // The outline a generator built is one a caller can use: closed, finite, without a segment
 // of zero length, and wider than the point tolerance on average (twice the area over the
-// perimeter), so that no comparison under that tolerance sees a line. An area beyond the
-// range of doubles (a circle of diameter 1e155) is allowed: the outline itself is exact.
-// Meaningless dimensions (a zero span, a negative length, a width asked of a vertical base)
-// and offsets so far out that the corners fall together end here as the empty outline.
+// perimeter), so that no comparison under that tolerance sees a line. Meaningless
+// dimensions (a zero span, a negative length, a width asked of a vertical base) and offsets
+// so far out that the corners fall together end here as the empty outline. An outline too
+// large for its area to be a double (a circle of diameter 1e155) is kept: its corners and
+// bulges are exact.
 bool isSound(COrxVertexArray const& outline) {
     if (!internal::isFiniteLoop(outline) || !segmentsHaveLength(outline)) {
         return false;
     }
-    double const area = std::fabs(g_vl_area(outline));
-    double const perimeter = outline.geomLength();
-    return std::isfinite(perimeter) && 2 * area > COrxPoint3d::tol * perimeter;
+    double s = 1.0;
+    COrxVertexArray const measured = measurable(outline, s);
+    double const area = std::fabs(g_vl_area(measured));
+    double const perimeter = measured.geomLength();
+    return 2 * area > COrxPoint3d::tol * s * perimeter;
 }
 
 }  // namespace

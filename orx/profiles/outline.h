@@ -12,7 +12,7 @@
 // or offset that is not finite. Nothing is thrown. Whatever the dimensions, an outline that
 // is returned is closed, has finite corners and bulges, no segment whose ends coincide
 // (point tolerance), and is wider than the point tolerance on average (twice its area over
-// its perimeter; the area itself may exceed the range of doubles): finite dimensions that
+// its perimeter, also where these exceed the range of doubles): finite dimensions that
 // mean nothing (a zero width, a negative length, an opening narrower than the tolerance)
 // and offsets so far out that the corners fall together give the empty outline instead.
 //
