@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/internal/area_moments.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/tolerance.h"
 #include "orx/plane_geometry/angles.h"
@@ -18,37 +19,6 @@ bool allValid(COrxPoint3dArray const& pl) {
         }
     }
     return true;
-}
-
-// Shoelace sums of a closed polygon, taken relative to its first point so that coordinates
-// far from the origin do not cancel away the digits of the result.
-struct PolygonSums {
-    double twiceArea = 0.0;
-    double firstX = 0.0;   // sum of (x[i] + x[i+1]) c[i]
-    double firstY = 0.0;   // sum of (y[i] + y[i+1]) c[i]
-    double secondX = 0.0;  // sum of (x[i]^2 + x[i] x[i+1] + x[i+1]^2) c[i]
-    double secondY = 0.0;  // sum of (y[i]^2 + y[i] y[i+1] + y[i+1]^2) c[i]
-    double mixed = 0.0;  // sum of (x[i] y[i+1] + 2 x[i] y[i] + 2 x[i+1] y[i+1] + x[i+1] y[i]) c[i]
-};
-
-PolygonSums polygonSums(COrxPoint3dArray const& pl) {
-    PolygonSums s;
-    COrxPoint3d const& ref = pl[0];
-    int const n = pl.len();
-    for (int i = 0; i < n; ++i) {
-        COrxPoint3d const& p = pl[i];
-        COrxPoint3d const& q = pl[(i + 1) % n];
-        double const x0 = p.x - ref.x, y0 = p.y - ref.y;
-        double const x1 = q.x - ref.x, y1 = q.y - ref.y;
-        double const c = x0 * y1 - x1 * y0;
-        s.twiceArea += c;
-        s.firstX += (x0 + x1) * c;
-        s.firstY += (y0 + y1) * c;
-        s.secondX += (x0 * x0 + x0 * x1 + x1 * x1) * c;
-        s.secondY += (y0 * y0 + y0 * y1 + y1 * y1) * c;
-        s.mixed += (x0 * y1 + 2 * x0 * y0 + 2 * x1 * y1 + x1 * y0) * c;
-    }
-    return s;
 }
 
 }  // namespace
@@ -144,22 +114,25 @@ bool g_pl_statics(COrxPoint3dArray const& pl, double& area, COrxPoint3d& centroi
     if (pl.len() < 3 || !allValid(pl)) {
         return false;
     }
-    PolygonSums const s = polygonSums(pl);
-    double const signedArea = s.twiceArea / 2;
-    if (!(std::fabs(signedArea) > COrxPoint3d::tol * COrxPoint3d::tol) ||
-        !std::isfinite(s.secondX + s.secondY + s.mixed)) {
+    // Shoelace sums relative to the first point, so that coordinates far from the origin do
+    // not cancel away the digits of the result.
+    COrxPoint3d const& ref = pl[0];
+    internal::AreaMoments sums;
+    int const n = pl.len();
+    for (int i = 0; i < n; ++i) {
+        COrxPoint3d const& p = pl[i];
+        COrxPoint3d const& q = pl[(i + 1) % n];
+        sums.addTriangle(p.x - ref.x, p.y - ref.y, q.x - ref.x, q.y - ref.y);
+    }
+    internal::CentralMoments c;
+    if (!internal::toCentral(sums, COrxPoint3d::tol * COrxPoint3d::tol, c)) {
         return false;
     }
-    // Centroid and moments relative to the first point, then moved to the centroid
-    // (parallel-axis theorem). A clockwise polygon flips every sum; the sign restores them.
-    double const cx = s.firstX / (3 * s.twiceArea);
-    double const cy = s.firstY / (3 * s.twiceArea);
-    double const sign = signedArea < 0.0 ? -1.0 : 1.0;
-    area = sign * signedArea;
-    ix = sign * (s.secondY / 12 - signedArea * cy * cy);
-    iy = sign * (s.secondX / 12 - signedArea * cx * cx);
-    ixy = sign * (s.mixed / 24 - signedArea * cx * cy);
-    centroid.set(pl[0].x + cx, pl[0].y + cy, pl[0].z);
+    area = c.area;
+    ix = c.ix;
+    iy = c.iy;
+    ixy = c.ixy;
+    centroid.set(ref.x + c.cx, ref.y + c.cy, ref.z);
     return true;
 }
 

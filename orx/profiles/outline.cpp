@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "orx/polyline/internal/loop_moments.h"
+#include "orx/polyline/polyline_functions.h"
 #include "orx/profiles/internal/outline_generators.h"
 
 namespace ORX {
@@ -69,6 +71,62 @@ bool finiteInput(COrxVector3d const& offset, internal::Dims const& dims) {
     return true;
 }
 
+// No segment ends where it starts.
+bool segmentsHaveLength(COrxVertexArray const& outline) {
+    for (int k = 0; k < outline.len(); ++k) {
+        if (outline[k].startPoint() == outline[k].endPoint()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Area and length are measured on a copy scaled down by a power of two (exact) so that no
+// coordinate exceeds this: their formulas square coordinates, which would overflow.
+constexpr double kMeasurableCoordinate = 1e50;
+
+// The outline scaled by s (a power of two) about the origin, and s itself: 1 when every
+// coordinate is measurable already.
+COrxVertexArray measurable(COrxVertexArray const& outline, double& s) {
+    double largest = 0.0;
+    for (int k = 0; k < outline.len(); ++k) {
+        COrxPoint3d const& p = outline[k].startPoint();
+        largest = std::fmax(largest, std::fmax(std::fabs(p.x), std::fabs(p.y)));
+    }
+    s = 1.0;
+    if (largest <= kMeasurableCoordinate) {
+        return outline;
+    }
+    s = std::exp2(std::floor(std::log2(kMeasurableCoordinate / largest)));
+    COrxVertexArray scaled;
+    for (int k = 0; k < outline.len(); ++k) {
+        COrxVertex const& v = outline[k];
+        COrxPoint3d const& a = v.startPoint();
+        COrxPoint3d const& b = v.endPoint();
+        scaled.append(COrxVertex(COrxPoint3d(a.x * s, a.y * s, a.z),
+                                 COrxPoint3d(b.x * s, b.y * s, b.z), v.bulge()));
+    }
+    return scaled;
+}
+
+// The outline a generator built is one a caller can use: closed, finite, without a segment
+// of zero length, and wider than the point tolerance on average (twice the area over the
+// perimeter), so that no comparison under that tolerance sees a line. Meaningless
+// dimensions (a zero span, a negative length, a width asked of a vertical base) and offsets
+// so far out that the corners fall together end here as the empty outline. An outline too
+// large for its area to be a double (a circle of diameter 1e155) is kept: its corners and
+// bulges are exact.
+bool isSound(COrxVertexArray const& outline) {
+    if (!internal::isFiniteLoop(outline) || !segmentsHaveLength(outline)) {
+        return false;
+    }
+    double s = 1.0;
+    COrxVertexArray const measured = measurable(outline, s);
+    double const area = std::fabs(g_vl_area(measured));
+    double const perimeter = measured.geomLength();
+    return 2 * area > COrxPoint3d::tol * s * perimeter;
+}
+
 }  // namespace
 
 COrxVertexArray g_outline(int type, COrxVector3d const& offset,
@@ -85,7 +143,7 @@ COrxVertexArray g_outline(int type, COrxVector3d const& offset,
             return result;
         }
         result = record.generate(offset, dims);
-        return result;
+        return isSound(result) ? result : COrxVertexArray();
     }
     return result;
 }

@@ -9,7 +9,12 @@
 //
 // Failure is the empty outline: an unknown code (16, 20, 25, 26, 29, 32 and every code not
 // listed below), fewer dimensions than the minimum, a failed validity test, or a dimension
-// or offset that is not finite. Nothing is thrown.
+// or offset that is not finite. Nothing is thrown. Whatever the dimensions, an outline that
+// is returned is closed, has finite corners and bulges, no segment whose ends coincide
+// (point tolerance), and is wider than the point tolerance on average (twice its area over
+// its perimeter, also where these exceed the range of doubles): finite dimensions that
+// mean nothing (a zero width, a negative length, an opening narrower than the tolerance)
+// and offsets so far out that the corners fall together give the empty outline instead.
 //
 // d0, d1, ... are the dimensions; "norm" marks outlines cleaned with norm(false), which drops
 // the zero-length segments a zero dimension leaves (and merges collinear neighbours). Arcs
@@ -42,14 +47,15 @@
 // 15   3   three-centred (basket-handle) arch, see below
 // 17   3   rectangle d0 x d1 with quarter-circle upper corners of radius r = d1 - d2:
 //          (0,0) (d0,0) (d0,d2) bulge tan(pi/8) (d0-r,d1) (r,d1) bulge tan(pi/8) (0,d2); norm
-// 18   3   pointed arch, width d0, crown d1, sides d2, optional arc rise d3:
+// 18   3   pointed arch, width d0 > 0, crown d1, sides d2, optional arc rise d3:
 //          (0,0) (d0,0) (d0,d2) arc (d0/2,d1) arc (0,d2); with d3 > 0 each arc's bulge is
 //          d3 over half its chord, else the arcs have the radius g_tang_radius(min(f, d0/2),
 //          max(f, d0/2)), f = d1 - d2; empty when that gives no arc (d1 = d2, no d3)
-// 19   2   circular segment, chord d0, rise d1 (d1 = 0 divides by zero: pass a positive
-//          rise): (0,0) (d0,0) arc [(d0/2,d1) arc when d1 > d0/2] back to (0,0)
+// 19   2   circular segment, chord d0 > 0, rise d1 > 0 (no arc without them):
+//          (0,0) (d0,0) arc [(d0/2,d1) arc when d1 > d0/2] back to (0,0)
 // 21   3   parallelogram with vertical sides d1, base at d2 degrees, base length d0 (d0 >= 0)
-//          or horizontal width |d0| (d0 < 0): (0,0) P P+(0,d1) (0,d1)
+//          or horizontal width |d0| (d0 < 0, not with a vertical base): (0,0) P P+(0,d1)
+//          (0,d1)
 // 22   1   circle, diameter d0 from (0,0) to (d0,0) (d0 >= 0) or radius |d0| about the
 //          origin (d0 < 0): two half circles, bulge 1 each
 // 23   3   ring segment or sector, see below
@@ -63,6 +69,7 @@
 //          |d0 - d1| < 1e-05; the lower end touches the origin (upright slot) or the left end
 //          does (d0 > d1)
 // 34   0   regular hexagon about the origin, across flats d0, corners at 30, 90, ... 330 deg
+//          (empty without d0 or with d0 = 0: the corners would all lie at the origin)
 // 801  3   slot of width d0 and length d1 with one half-circle end and one end on the circle
 //          of diameter D = max(d2, d0): (d0/2,0) bulge 1 (-d0/2,0) (-d0/2,e) arc (d0/2,e),
 //          the arc counter-clockwise about (0, D/2 - d1 + d0/2) (the far end lies d1 below
@@ -103,14 +110,17 @@
 //          r = d (d - a + f) / (2a) with d = sqrt(a^2 + f^2); they meet tangentially at T
 //          and T' = mirror of T. Corners (0,0) (d0,0) (d0,d2) bulge tan(phi/4) T
 //          bulge tan((pi - 2 phi)/4) T' bulge tan(phi/4) (0,d2), phi the angle each
-//          springing arc spans; norm (d2 = 0 drops the sides, f = a leaves one half circle).
-//          Invalid: d0 <= 0, d2 < 0, f <= 0, f > a.
+//          springing arc spans; norm (d2 = 0 drops the sides, f = a leaves one half circle;
+//          a rise within the point tolerance above a is taken as a, so that decimal input
+//          such as 25.4, 12.8, 0.1 reaches the half circle). Invalid: d0 <= 0, d2 < 0,
+//          f <= 0, f > a.
 // 23   3   Ring segment (curved flange plates, ring stiffeners) about the origin, starting on
 //          +X. d0 outer radius, d1 inner radius (0 gives the circular sector), d2 angle in
 //          degrees. Corners (d1,0) (d0,0) bulge tan(w/4) (d0 cos w, d0 sin w)
 //          (d1 cos w, d1 sin w) bulge -tan(w/4) back to (d1,0); with d1 = 0 the inner arc is
 //          left out: (0,0) (d0,0) bulge tan(w/4) (d0 cos w, d0 sin w). Invalid: d0 <= 0,
-//          d1 < 0, d1 >= d0, d2 <= 0, d2 >= 360.
+//          d1 < 0, d1 >= d0, d2 <= 0, d2 >= 360, and an angle so close to 0 or 360 that an
+//          arc's ends coincide under the point tolerance (359.999999 on radius 10).
 // 24   3   Rectangle d0 x d1 with all four corners chamfered (sniped plates). d2 chamfer leg
 //          along X, d3 leg along Y (0 or absent: d3 = d2). Corners (c,0) (d0-c,0) (d0,e)
 //          (d0,d1-e) (d0-c,d1) (c,d1) (0,d1-e) (0,e), c = d2, e = d3; norm. Invalid:

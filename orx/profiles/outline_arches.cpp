@@ -65,9 +65,16 @@ COrxVertexArray semicircularArch(COrxVector3d const& offset, Dims const& dims) {
     return placed(archedRectangle(d0, side, 1.0), offset);
 }
 
+// The rise comes from a subtraction, so ordinary decimal input meant as the half circle
+// (25.4, 12.8, 0.1) lands a rounding error above half the span: a rise within the point
+// tolerance of the limit is taken as the limit itself.
 COrxVertexArray basketHandleArch(COrxVector3d const& offset, Dims const& dims) {
     double const span = dim(dims, 0), crown = dim(dims, 1), side = dim(dims, 2);
-    double const a = span / 2, rise = crown - side;
+    double const a = span / 2;
+    double rise = crown - side;
+    if (rise > a && rise - a <= COrxPoint3d::tol) {
+        rise = a;
+    }
     if (!hasDims(dims, 3) || !(span > 0) || !(side >= 0) || !(rise > 0) || !(rise <= a)) {
         return COrxVertexArray();
     }
@@ -105,10 +112,10 @@ COrxVertexArray roundedTopRectangle(COrxVector3d const& offset, Dims const& dims
 }
 
 COrxVertexArray pointedArch(COrxVector3d const& offset, Dims const& dims) {
-    if (!hasDims(dims, 3)) {
+    double const d0 = dim(dims, 0), crown = dim(dims, 1), side = dim(dims, 2);
+    if (!hasDims(dims, 3) || !(d0 > 0)) {
         return COrxVertexArray();
     }
-    double const d0 = dim(dims, 0), crown = dim(dims, 1), side = dim(dims, 2);
     double const rise = hasDims(dims, 4) ? dim(dims, 3) : kPointedArchNoRise;
     COrxPoint3d const rightTop = xy(d0, side), top = xy(d0 / 2, crown), leftTop = xy(0, side);
     double rightBulge, leftBulge;
@@ -130,14 +137,15 @@ COrxVertexArray pointedArch(COrxVector3d const& offset, Dims const& dims) {
     return placed(outline, offset);
 }
 
-// A zero rise divides by zero and is deliberately not guarded: callers pass a positive rise.
-// An arc longer than a half circle is written as two arcs meeting at the crown: with a
-// positive radius g_arcrad_bulg yields the minor arc of a chord only.
+// Callers pass a positive chord and rise; anything else (a zero rise would divide by zero,
+// a negative one gives a negative radius and so major arcs running the wrong way) is
+// refused. An arc longer than a half circle is written as two arcs meeting at the crown:
+// with a positive radius g_arcrad_bulg yields the minor arc of a chord only.
 COrxVertexArray circularSegment(COrxVector3d const& offset, Dims const& dims) {
-    if (!hasDims(dims, 2)) {
+    double const chord = dim(dims, 0), rise = dim(dims, 1);
+    if (!hasDims(dims, 2) || !(chord > 0 && rise > 0)) {
         return COrxVertexArray();
     }
-    double const chord = dim(dims, 0), rise = dim(dims, 1);
     double const radius = (chord * chord / 4 + rise * rise) / (2 * rise);
     COrxPoint3d const right = xy(chord, 0), crown = xy(chord / 2, rise), left = xy(0, 0);
     COrxVertexArray outline;

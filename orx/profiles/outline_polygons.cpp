@@ -11,6 +11,9 @@ namespace {
 // Code 34 puts its first corner a twelfth of a turn above +X and steps by a sixth of a turn.
 constexpr double kTwelfthTurn = 0.5235987755982988;
 constexpr double kSixthTurn = 1.0471975511965976;
+// Code 21 takes its base as vertical when the cosine of its angle is below this: a base
+// that steep would have to be a million million times the width asked for.
+constexpr double kVerticalBaseCosine = 1e-12;
 
 // Half the difference between the base d0 and the top flat: a negative t is the whole flat,
 // a positive one half of it (deliberately asymmetric; codes 6 and 7 are drawn that way).
@@ -136,12 +139,14 @@ COrxVertexArray triangle(COrxVector3d const& offset, Dims const& dims) {
 
 // The upper corners are stepped from the lower ones with polar() at a right angle, so their
 // x carries the tiny d1 cos(pi/2) term; callers compare corners with the point tolerance.
+// A horizontal width (d0 < 0) cannot be met by a vertical base: the cosine of a right angle
+// in degrees comes out as a rounding error, not 0, and would give a base of some 1e18.
 COrxVertexArray parallelogram(COrxVector3d const& offset, Dims const& dims) {
-    if (!hasDims(dims, 3)) {
-        return COrxVertexArray();
-    }
     double const d0 = dim(dims, 0), d1 = dim(dims, 1);
     double const a = dim(dims, 2) * kDegToRad;
+    if (!hasDims(dims, 3) || (d0 < 0 && std::fabs(std::cos(a)) < kVerticalBaseCosine)) {
+        return COrxVertexArray();
+    }
     double const baseLength = d0 >= 0 ? d0 : -(d0 / std::cos(a));
     COrxPoint3d const origin = xy(0, 0);
     COrxPoint3d const baseEnd = polar(origin, a, baseLength);
@@ -189,8 +194,8 @@ COrxVertexArray notchedRectangle(COrxVector3d const& offset, Dims const& dims) {
     return placed(outline.norm(false), offset);
 }
 
-// Corners at 30, 90, ..., 330 degrees on the circumscribed circle; an absent d0 gives the
-// point-sized hexagon at the origin.
+// Corners at 30, 90, ..., 330 degrees on the circumscribed circle. An absent or zero d0
+// gives six corners at the origin, which the dispatcher refuses.
 COrxVertexArray hexagon(COrxVector3d const& offset, Dims const& dims) {
     double const acrossFlats = dim(dims, 0);
     double const r = (acrossFlats / 2) / std::cos(kTwelfthTurn);

@@ -12,5 +12,6 @@
 #include "orx/regions/region.h"
 #include "orx/regions/region_building.h"
 #include "orx/regions/region_lists.h"
+#include "orx/regions/region_statics.h"
 
 #endif  // ORX_REGIONS_REGIONS_H

@@ -151,3 +151,48 @@ TEST(DegenerateInputTest, EmptyAndDegeneratePolylines) {
     COrxPoint3dArray pts;
     odd.intersectWith(pts, odd.reverse(), 0);
 }
+
+// The section properties, corners, splitting and segment offset take the odd segments too:
+// each call returns, and what it returns is a documented value.
+TEST(DegenerateInputTest, OddSegmentsThroughPropertiesCornersAndSplits) {
+    std::vector<COrxVertex> const segments = oddSegments();
+    COrxVertex const ordinary(pt(1, 0), pt(1, 1), 0.2);
+    for (COrxVertex const& v : segments) {
+        for (COrxVertex const& w : segments) {
+            COrxVertex a(v), b(w), piece;
+            ORX::g_vx_fillet(a, b, 0.5, piece);
+            ORX::g_vx_chamfer(a, b, 0.5, 0.5, piece);
+        }
+        COrxVertex a(v), b(ordinary), piece;
+        ORX::g_vx_fillet(a, b, 0.5, piece);
+        COrxVertexArray loop(v);
+        loop.append(ordinary).append(COrxVertex(ordinary.endPoint(), v.startPoint(), 0.0));
+        double area = 0, ix = 0, iy = 0, ixy = 0;
+        COrxPoint3d c;
+        if (ORX::g_vl_statics(loop, area, c, ix, iy, ixy)) {
+            EXPECT_TRUE(std::isfinite(area + ix + iy + ixy) && area > 0 && c.isValid());
+        }
+        COrxVertexArray edited(loop);
+        ORX::g_vl_fillet_all(edited, 0.1);
+        ORX::g_vl_chamfer_all(edited, 0.1);
+        for (int i = -1; i <= loop.len(); ++i) {
+            COrxVertexArray moved(loop);
+            ORX::g_vl_offset_vx(moved, i, 0.25);
+        }
+        COrxArrayTempl<double> at;
+        at.append(0.5).append(kNan).append(kInf).append(1.5);
+        COrxArrayTempl<COrxVertexArray> const pieces = ORX::g_vl_split_dist(loop, at);
+        EXPECT_FALSE(pieces.isEmpty());
+        COrxPoint3dArray points;
+        points.append(pt(kNan, 0)).append(pt(1, 0.5));
+        EXPECT_FALSE(ORX::g_vl_split(loop, points).isEmpty());
+    }
+    // A nearly straight side keeps the square's area to the last digit.
+    COrxVertexArray square = unitSquare();
+    square[0].set(square[0].startPoint(), square[0].endPoint(), 1e-300);
+    double area = 0, ix = 0, iy = 0, ixy = 0;
+    COrxPoint3d c;
+    ASSERT_TRUE(ORX::g_vl_statics(square, area, c, ix, iy, ixy));
+    EXPECT_EQ(area, 1.0);
+    EXPECT_NEAR(ix, 1.0 / 12, 1e-16);
+}

@@ -221,12 +221,12 @@ TEST(OutlineCodesTest, PointedArchWithoutRiseCannotBeBuilt) {
     EXPECT_TRUE(outline(18, {4, 2, 2}).isEmpty());  // crown at side height: no radius
 }
 
-// Callers must pass a positive rise: no guard is made, the arc's bulge is not a number.
-TEST(OutlineCodesTest, CircularSegmentWithoutRiseIsNotGuarded) {
-    COrxVertexArray const vl = outline(19, {4, 0});
-    ASSERT_EQ(vl.len(), 2);
-    EXPECT_EQ(vl[0].bulge(), 0.0);
-    EXPECT_TRUE(std::isnan(vl[1].bulge()));
+// Callers must pass a positive chord and rise; without them there is no arc to build.
+TEST(OutlineCodesTest, CircularSegmentWithoutRiseIsEmpty) {
+    for (std::vector<double> const& d :
+         {std::vector<double>{4, 0}, std::vector<double>{4, -1}, std::vector<double>{-4, 1}}) {
+        EXPECT_TRUE(outline(19, d).isEmpty()) << d[0] << " " << d[1];
+    }
 }
 
 TEST(OutlineCodesTest, DimensionsOrOffsetNotFiniteGiveTheEmptyOutline) {

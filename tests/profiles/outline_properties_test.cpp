@@ -68,7 +68,8 @@ std::vector<Typical> const& typicalOutlines() {
 }
 
 // The typical outlines list every code in the table's own order; each is closed,
-// counter-clockwise, simple, inside its box, and moved by exactly the offset.
+// counter-clockwise, simple, inside its box with its centroid, and moved by exactly the
+// offset.
 TEST(OutlinePropertiesTest, EveryCodeIsClosedPositiveSimpleAndInsideItsBox) {
     std::vector<Typical> const& table = typicalOutlines();
     ASSERT_EQ(table.size(), static_cast<size_t>(ORX::kOutlineTableSize));
@@ -88,6 +89,12 @@ TEST(OutlinePropertiesTest, EveryCodeIsClosedPositiveSimpleAndInsideItsBox) {
         ASSERT_TRUE(vl.extents(lo, hi));
         EXPECT_EQ(lo, t.lo);
         EXPECT_EQ(hi, t.hi);
+        double area, ix, iy, ixy;
+        COrxPoint3d c;
+        ASSERT_TRUE(ORX::g_vl_statics(vl, area, c, ix, iy, ixy));
+        EXPECT_NEAR(area, ORX::g_vl_area(vl), 1e-12 * area);
+        EXPECT_TRUE(c.x > lo.x && c.x < hi.x && c.y > lo.y && c.y < hi.y);
+        EXPECT_TRUE(ix > 0 && iy > 0);
         EXPECT_EQ(ORX::g_outline(t.code, offset, orx_test::dims(t.dims)), vl.move(offset));
     }
 }
