@@ -117,7 +117,7 @@ TEST(OrxErrorTest, BadCommandFailsWithOneLineNamingTheProblem) {
         // written.
         {"output_overflows",
          {"outline", "1", "--dims", "1e308,1", "--offset", "1e308,0", "-o", "out.json"},
-         "profile code 1 gives no outline for these dimensions"},
+         "profile code 1: the offset moves the outline beyond the range of numbers"},
         {"bool_needs_closed",
          {"bool", "union", "ok.json", "open.json", "-o", "out.json"},
          "open.json: polyline 1 is open"},

@@ -56,9 +56,18 @@ int runOutline(int code, std::string const& dimsText, std::string const& offsetT
         offset.empty() ? COrxVector3d(0, 0, 0) : COrxVector3d(offset[0], offset[1], 0);
     COrxVertexArray outline = ORX::g_outline(code, move, libraryDims);
     if (outline.isEmpty()) {
+        // The library refuses an outline that collapses or overflows; say which input did it.
+        bool const atOrigin = !ORX::g_outline(code, COrxVector3d(0, 0, 0), libraryDims).isEmpty();
+        if (atOrigin) {
+            throw ToolError("profile code " + std::to_string(code) +
+                            ": the offset moves the outline beyond the range of numbers");
+        }
+        std::string const given = dims.empty() ? std::string("no dimensions given")
+                                  : sample != nullptr ? describeDims(*sample, dims)
+                                                      : std::string();
         throw ToolError("profile code " + std::to_string(code) +
                         " gives no outline for these dimensions" +
-                        (sample != nullptr ? " (" + describeDims(*sample, dims) + ")" : ""));
+                        (given.empty() ? std::string() : " (" + given + ")"));
     }
     std::string problem = collapseProblem(outline);
     if (!problem.empty()) {
