@@ -72,6 +72,11 @@ void lineDirection(Segment const& line, double& wx, double& wy) {
 // tolerance are; at coordinates near the origin the spread is below the tolerance.
 constexpr double kRoundingShare = 8.0 * 2.220446049250313e-16;
 
+// Segments whose boxes are farther apart than this many point tolerances, and this share of
+// their coordinates' size for rounding, cannot meet.
+constexpr double kApartTolerances = 4.0;
+constexpr double kApartRelative = 1e-9;
+
 double tangencySpread(double radius, double size) {
     double const spread = std::sqrt(2 * radius * kRoundingShare * size);
     return std::isfinite(spread) ? spread : 0.0;
@@ -114,6 +119,38 @@ double sizeOf(Segment const& a, Segment const& b) {
     return size;
 }
 
+// The loose plan box of a segment: the chord's box widened by a bound of the sagitta for an
+// arc up to a half circle; false for a longer arc (no cheap box).
+bool looseBox(COrxPoint3d const& s, COrxPoint3d const& e, double bulge, double box[4]) {
+    double const b = std::fabs(bulge);
+    if (!(b <= 1.0)) {
+        return false;
+    }
+    double const bow = b * (std::fabs(e.x - s.x) + std::fabs(e.y - s.y)) / 2;
+    box[0] = (s.x < e.x ? s.x : e.x) - bow;
+    box[1] = (s.y < e.y ? s.y : e.y) - bow;
+    box[2] = (s.x < e.x ? e.x : s.x) + bow;
+    box[3] = (s.y < e.y ? e.y : s.y) + bow;
+    return true;
+}
+
+// The two segments lie too far apart to meet within the tolerance: every point reported lies
+// within a few tolerances of both. Comparisons are written so that NaN never says "apart".
+bool farApart(COrxPoint3d const& s1, COrxPoint3d const& e1, double b1, COrxPoint3d const& s2,
+              COrxPoint3d const& e2, double b2) {
+    double p[4], q[4];
+    if (!looseBox(s1, e1, b1, p) || !looseBox(s2, e2, b2, q)) {
+        return false;
+    }
+    double size = 0.0;
+    for (int k = 0; k < 4; ++k) {
+        size = std::max(size, std::max(std::fabs(p[k]), std::fabs(q[k])));
+    }
+    double const margin = kApartTolerances * COrxPoint3d::tol + kApartRelative * size;
+    return p[2] + margin < q[0] || q[2] + margin < p[0] || p[3] + margin < q[1] ||
+           q[3] + margin < p[1];
+}
+
 bool segmentInters(COrxPoint3dArray& pts, Segment const& a, Segment const& b, bool extended) {
     COrxPoint3d crossing;
     if (inters(a.start, a.end, b.start, b.end, !extended, crossing)) {
@@ -127,6 +164,9 @@ bool segmentInters(COrxPoint3dArray& pts, Segment const& a, Segment const& b, bo
 bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const& e1, double b1,
                 COrxPoint3d const& s2, COrxPoint3d const& e2, double b2, bool extended) {
     pts.setLogicalLength(0);
+    if (!extended && farApart(s1, e1, b1, s2, e2, b2)) {
+        return false;
+    }
     Segment a{s1, e1, b1}, b{s2, e2, b2};
     if (b1 == 0.0 && b2 == 0.0) {
         return segmentInters(pts, a, b, extended);

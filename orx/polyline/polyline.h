@@ -12,8 +12,8 @@
 
 #include "orx/polyline/corners.h"
 #include "orx/polyline/polyline_functions.h"
-#include "orx/polyline/segment_offset.h"
 #include "orx/polyline/section_properties.h"
+#include "orx/polyline/segment_offset.h"
 #include "orx/polyline/split.h"
 #include "orx/polyline/vertex.h"
 #include "orx/polyline/vertex_array.h"

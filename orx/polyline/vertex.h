@@ -148,6 +148,8 @@ public:
     bool intNear(COrxVertex const& other, COrxPoint3d const& near, COrxPoint3d& result) const;
 
 private:
+    // p lies too far from the segment to be on it (a cheap test before the exact one).
+    bool farFrom(COrxPoint3d const& p) const;
     // This arc's ends and midpoint lie within the tolerance of the other's circle.
     bool onCircleOf(COrxVertex const& other) const;
     // The ends differ in the plan, so an arc has a chord and a circle.

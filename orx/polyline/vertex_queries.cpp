@@ -11,6 +11,9 @@ bool COrxVertex::isPoint(COrxPoint3d const& p) const {
     if (p == m_start || p == m_end) {
         return true;
     }
+    if (farFrom(p)) {
+        return false;
+    }
     if (isStraight()) {
         return ORX::g_line_pt(m_start, m_end, p);
     }
@@ -89,6 +92,21 @@ bool COrxVertex::coLinear(COrxVertex const& other) const {
     // circles themselves rather than through the centres, which a nearly straight arc puts
     // too far away to compare within the tolerance.
     return onCircleOf(other) && other.onCircleOf(*this);
+}
+
+// p lies outside the segment's box widened by the tolerance (an arc up to a half circle lies
+// within a bound of its sagitta of its chord): it cannot be on the segment. NaN is never far.
+bool COrxVertex::farFrom(COrxPoint3d const& p) const {
+    double const b = std::fabs(m_bulge);
+    if (!(b <= 1.0)) {
+        return false;
+    }
+    double const reach = b * (std::fabs(m_end.x - m_start.x) + std::fabs(m_end.y - m_start.y)) / 2 +
+                         2 * COrxPoint3d::tol;
+    return (p.x + reach < m_start.x && p.x + reach < m_end.x) ||
+           (p.x - reach > m_start.x && p.x - reach > m_end.x) ||
+           (p.y + reach < m_start.y && p.y + reach < m_end.y) ||
+           (p.y - reach > m_start.y && p.y - reach > m_end.y);
 }
 
 bool COrxVertex::onCircleOf(COrxVertex const& other) const {

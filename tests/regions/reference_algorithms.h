@@ -182,81 +182,6 @@ inline bool plainInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundar
     }
 }
 
-// The winding number of p over all segments, and inside by parity.
-inline bool plainInsideExact(COrxVertexArray const& vl, COrxPoint3d const& p) {
-    int winding = 0;
-    for (int k = 0; k < vl.len(); ++k) {
-        winding += ORX::g_bulg_winding(vl[k].startPoint(), vl[k].endPoint(), vl[k].bulge(), p);
-    }
-    return winding % 2 != 0;
-}
-
-// Same ends (either way round) and each midpoint within the tolerance of the other piece:
-// +1 running the same way, -1 opposite ways, 0 not coincident.
-inline int plainCoincidence(COrxVertex const& p, COrxVertex const& q) {
-    int direction = 0;
-    if (p.startPoint() == q.startPoint() && p.endPoint() == q.endPoint()) {
-        direction = 1;
-    } else if (p.startPoint() == q.endPoint() && p.endPoint() == q.startPoint()) {
-        direction = -1;
-    }
-    auto within = [](COrxVertex const& v, COrxPoint3d const& m) {
-        return ORX::g_bulg_pt_dist(v.startPoint(), v.endPoint(), v.bulge(), m) <= COrxPoint3d::tol;
-    };
-    return direction != 0 && within(q, p.mid()) && within(p, q.mid()) ? direction : 0;
-}
-
-// Chains the pieces and keeps the chains that close, each normalised.
-inline COrxVertexArray plainClosedLoops(COrxVertexArray pieces) {
-    ORX::g_vl_sort(pieces);
-    COrxVertexArray result, chain;
-    for (int k = 0; k < pieces.len(); ++k) {
-        chain.append(pieces[k]);
-        if (k + 1 == pieces.len() || pieces[k + 1].startPoint() != pieces[k].endPoint()) {
-            if (chain.norm(false).isClosed()) {
-                result += chain;
-            }
-            chain = COrxVertexArray();
-        }
-    }
-    return result;
-}
-
-// Every piece of a against every piece of b: coincident pieces running the same way keep a's
-// copy, running opposite ways neither; the others are kept by the side of the other operand
-// their midpoint lies on. The difference works on b reversed.
-inline COrxVertexArray plainBool(COrxVertexArray a, COrxVertexArray b,
-                                 COrxVertexArray::boolOper op) {
-    if (op == COrxVertexArray::boolDiff) {
-        b.revert();
-    }
-    plainBreak(a, b, 3);
-    COrxVertexArray kept;
-    std::vector<bool> matched(static_cast<std::size_t>(b.len()), false);
-    for (int i = 0; i < a.len(); ++i) {
-        bool same = false, opposite = false;
-        for (int j = 0; j < b.len(); ++j) {
-            int const direction = plainCoincidence(a[i], b[j]);
-            same = same || direction > 0;
-            opposite = opposite || direction < 0;
-            matched[static_cast<std::size_t>(j)] =
-                matched[static_cast<std::size_t>(j)] || direction != 0;
-        }
-        bool const inside = plainInsideExact(b, a[i].mid());
-        if (same || (!opposite && (op == COrxVertexArray::boolSect ? inside : !inside))) {
-            kept.append(a[i]);
-        }
-    }
-    for (int j = 0; j < b.len(); ++j) {
-        bool const inside = plainInsideExact(a, b[j].mid());
-        if (!matched[static_cast<std::size_t>(j)] &&
-            (op == COrxVertexArray::boolUnion ? !inside : inside)) {
-            kept.append(b[j]);
-        }
-    }
-    return plainClosedLoops(kept);
-}
-
 // Bit for bit: every coordinate and bulge the same double.
 inline bool identical(COrxPoint3d const& p, COrxPoint3d const& q) {
     return p.x == q.x && p.y == q.y && p.z == q.z;
@@ -272,8 +197,8 @@ bool identical(Array const& a, Array const& b) {
     if (a.len() != b.len()) {
         return false;
     }
-    for (int k = 0; k < a.len(); ++k) {
-        if (!identical(a[k], b[k])) {
+    for (long k = 0; k < static_cast<long>(a.len()); ++k) {
+        if (!identical(a[static_cast<int>(k)], b[static_cast<int>(k)])) {
             return false;
         }
     }

@@ -1,0 +1,71 @@
+// The prepared outline answers as the point-in-region test does, for outlines, regions with
+// holes and large outlines, and stays a value.
+#include "orx/regions/outline_index.h"
+
+#include <gtest/gtest.h>
+
+#include "../../bench/bench_shapes.h"
+#include "shapes.h"
+
+using namespace orx_test;
+
+namespace {
+
+// A point this near the boundary may be decided differently by a grazing ray.
+constexpr double kNearBoundary = 1e-3;
+
+bool nearBoundary(Region const& region, COrxPoint3d const& p) {
+    COrxPoint3dTol const wide(kNearBoundary);
+    for (unsigned long k = 0; k < region.len(); ++k) {
+        if (region[static_cast<int>(k)].isPoint(p)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+TEST(COrxOutlineIndexTest, AnswersAsThePointInRegionTest) {
+    ShapeMaker make(5u);
+    std::vector<Region> regions;
+    for (int n = 0; n < 40; ++n) {
+        regions.push_back(n % 2 ? make.withHoles() : region({make.outline()}));
+    }
+    regions.push_back(region({orx_bench::wavy(2000).a}));
+    for (Region const& r : regions) {
+        COrxOutlineIndex const index(r);
+        for (int k = 0; k < 200; ++k) {
+            COrxPoint3d const p(make.uniform(-8, 8), make.uniform(-8, 8), 0);
+            COrxPoint3d const far(p.x * 16, p.y * 16, 0);  // reaches the wavy outline too
+            for (COrxPoint3d const& q : {p, far}) {
+                if (!nearBoundary(r, q)) {
+                    EXPECT_EQ(index.locate(q), ORX::g_vll_pt_inside(r, q));
+                }
+            }
+        }
+        // Points on the boundary: the corners and the midpoints of the segments.
+        for (unsigned long l = 0; l < r.len(); ++l) {
+            COrxVertexArray const& loop = r[static_cast<int>(l)];
+            for (int k = 0; k < loop.len(); k += 7) {
+                EXPECT_EQ(index.locate(loop[k].mid()), 0);
+                EXPECT_TRUE(index.inside(loop[k].startPoint(), true));
+                EXPECT_FALSE(index.inside(loop[k].startPoint(), false));
+            }
+        }
+    }
+}
+
+TEST(COrxOutlineIndexTest, EmptyInvalidAndCopied) {
+    COrxOutlineIndex const none;
+    EXPECT_EQ(none.locate(pt(0, 0)), -1);
+    COrxOutlineIndex square(rectangle(0, 0, 2, 2));
+    EXPECT_EQ(square.locate(pt(ORX::nan(), 1)), -1);
+    COrxOutlineIndex copy(square);
+    square = COrxOutlineIndex(rectangle(10, 10, 12, 12));
+    EXPECT_EQ(copy.locate(pt(1, 1)), 1);
+    EXPECT_EQ(square.locate(pt(1, 1)), -1);
+    EXPECT_EQ(square.locate(pt(11, 11)), 1);
+    copy = copy;  // self-assignment keeps it
+    EXPECT_EQ(copy.locate(pt(1, 1)), 1);
+}
