@@ -93,10 +93,10 @@ PlainRegionList plainRegions(PlainRegion const& loops) {
 TEST(AccelerationScaleTest, RegionBuildingGivesThePlainRegions) {
     // Nested circles and squares, some crossing one another, in scattered order.
     std::mt19937 engine(9u);
-    std::uniform_real_distribution<double> spread(-30, 30), size(0.5, 8);
+    std::uniform_real_distribution<double> spread(-100, 100), size(0.5, 3);
     for (int n = 0; n < 20; ++n) {
         PlainRegion loops;
-        COrxPoint3d const centre(spread(engine), spread(engine), 0);
+        COrxPoint3d const centre(spread(engine) / 4, spread(engine) / 4, 0);
         for (int k = 0; k < 40; ++k) {
             // Rings about one centre nest; the others scatter.
             COrxPoint3d const c =
