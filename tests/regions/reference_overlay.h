@@ -65,18 +65,57 @@ inline void plainSort(COrxVertexArray& vl) {
     }
 }
 
-// The chains of the sorted pieces that close, each normalised.
+// The chains of the sorted pieces that close, each normalised; then the open chains, each
+// joined at its end to the nearest start within four tolerances (its own, closing it, or
+// another open chain's) until it closes or none is near.
 inline PlainRegion plainClosedLoops(COrxVertexArray pieces) {
     plainSort(pieces);
     PlainRegion loops;
+    std::vector<COrxVertexArray> open;
     COrxVertexArray chain;
     for (int k = 0; k < pieces.len(); ++k) {
         chain.append(pieces[k]);
         if (k + 1 == pieces.len() || pieces[k + 1].startPoint() != pieces[k].endPoint()) {
-            if (chain.norm(false).isClosed()) {
-                loops.append(chain);
+            if (chain[chain.len() - 1].endPoint() == chain[0].startPoint()) {
+                if (chain.norm(false).isClosed()) {
+                    loops.append(chain);
+                }
+            } else {
+                open.push_back(chain);
             }
             chain = COrxVertexArray();
+        }
+    }
+    std::vector<bool> used(open.size(), false);
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (used[i]) {
+            continue;
+        }
+        used[i] = true;
+        COrxVertexArray c = open[i];
+        for (;;) {
+            COrxPoint3d const end = c[c.len() - 1].endPoint();
+            double best = end.distanceTo(c[0].startPoint());
+            std::size_t next = i;
+            for (std::size_t j = 0; j < open.size(); ++j) {
+                if (!used[j] && end.distanceTo(open[j][0].startPoint()) < best) {
+                    best = end.distanceTo(open[j][0].startPoint());
+                    next = j;
+                }
+            }
+            if (!(best <= 4 * COrxPoint3d::tol)) {
+                break;
+            }
+            COrxPoint3d const join = next == i ? c[0].startPoint() : open[next][0].startPoint();
+            c[c.len() - 1].set(c[c.len() - 1].startPoint(), join, c[c.len() - 1].bulge());
+            if (next == i) {
+                if (c.norm(false).isClosed()) {
+                    loops.append(c);
+                }
+                break;
+            }
+            c += open[next];
+            used[next] = true;
         }
     }
     return loops;

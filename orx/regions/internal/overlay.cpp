@@ -147,10 +147,67 @@ COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, Ov
 
 namespace {
 
-// Calls take(chain) for every chain of the chained pieces that closes, normalised.
+// Open chains whose ends lie within this many point tolerances are joined (see below).
+constexpr double kRepairTolerances = 4.0;
+
+// Normalises the chain and hands it to take() when it closes.
+template <class Take>
+void takeIfClosed(COrxVertexArray& chain, Take take) {
+    chain.norm(false);
+    if (chain.isClosed()) {
+        take(chain);
+    }
+}
+
+// Chains that do not close: where operands come within the tolerance of each other at a
+// corner, a vertex of one may lie just beyond the tolerance of the other's, so that one
+// chain ends where the next begins only within a little more than the tolerance. Each open
+// chain is joined, at its end, to the nearest start within kRepairTolerances of it, its own
+// start (closing it) or that of another open chain, until it closes or no start is near;
+// a chain that cannot close is left out.
+template <class Take>
+void joinOpenChains(std::vector<COrxVertexArray>& open, Take take) {
+    double const reach = kRepairTolerances * COrxPoint3d::tol;
+    std::vector<bool> used(open.size(), false);
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (used[i]) {
+            continue;
+        }
+        used[i] = true;
+        COrxVertexArray chain = open[i];
+        for (;;) {
+            COrxPoint3d const end = chain[chain.len() - 1].endPoint();
+            double best = end.distanceTo(chain[0].startPoint());
+            std::size_t next = i;  // i: close the chain
+            for (std::size_t j = 0; j < open.size(); ++j) {
+                double const d = used[j] ? best : end.distanceTo(open[j][0].startPoint());
+                if (d < best) {
+                    best = d;
+                    next = j;
+                }
+            }
+            if (!(best <= reach)) {
+                break;  // no start near: left out
+            }
+            COrxVertex& last = chain[chain.len() - 1];
+            COrxPoint3d const join = next == i ? chain[0].startPoint() : open[next][0].startPoint();
+            last.set(last.startPoint(), join, last.bulge());
+            if (next == i) {
+                takeIfClosed(chain, take);
+                break;
+            }
+            chain += open[next];
+            used[next] = true;
+        }
+    }
+}
+
+// Calls take(loop) for every chain of the chained pieces that closes, normalised, then for
+// the open chains that joining closes.
 template <class Take>
 void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
     g_vl_sort(pieces);
+    std::vector<COrxVertexArray> open;
     int begin = 0;
     COrxVertexArray chain;
     for (int k = 1; k <= pieces.len(); ++k) {
@@ -162,11 +219,13 @@ void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
             chain[i - begin] = pieces[i];
         }
         begin = k;
-        chain.norm(false);
-        if (chain.isClosed()) {
-            take(chain);
+        if (chain[chain.len() - 1].endPoint() == chain[0].startPoint()) {
+            takeIfClosed(chain, take);
+        } else {
+            open.push_back(chain);
         }
     }
+    joinOpenChains(open, take);
 }
 
 }  // namespace
