@@ -103,7 +103,9 @@ public:
     // Parallel offset with a distance per segment; a list shorter than the polyline repeats
     // its last distance for the remaining segments. Segments that collapse or turn over are
     // removed and their neighbours trimmed to each other; with bridgeGaps, a gap that no
-    // trimming can close is bridged with a straight segment.
+    // trimming can close is bridged with a straight segment. A polyline with a NaN or
+    // infinite value, or whose offset overflows, becomes empty; a distance that is not
+    // finite moves nothing (as for a segment).
     COrxVertexArray& offset(COrxArrayTempl<double> const& distances, bool bridgeGaps);
     // Reverses the order and each segment.
     COrxVertexArray& revert();

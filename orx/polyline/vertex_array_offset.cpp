@@ -3,6 +3,8 @@
 // Every segment is offset on its own; segments that become too short (collapsed arcs,
 // tiny pieces) or turn over (a straight segment trimmed past its own start) are removed,
 // and consecutive segments are trimmed or extended to their meeting point.
+#include <cmath>
+
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/geom/functions.h"
 #include "orx/polyline/vertex_array.h"
@@ -21,6 +23,21 @@ bool turnedOver(COrxVertex const& v, COrxVector3d const& before) {
 
 }  // namespace
 
+namespace {
+
+// Every coordinate and bulge is a finite number.
+bool allFinite(COrxVertexArray const& vl) {
+    for (int k = 0; k < vl.len(); ++k) {
+        COrxVertex const& v = vl[k];
+        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
 COrxVertexArray& COrxVertexArray::offset(double d, bool bridgeGaps) {
     if (d == 0.0) {
         return *this;
@@ -32,6 +49,10 @@ COrxVertexArray& COrxVertexArray::offset(double d, bool bridgeGaps) {
 
 COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances, bool bridgeGaps) {
     if (isEmpty() || distances.isEmpty()) {
+        return *this;
+    }
+    if (!allFinite(*this)) {
+        setLogicalLength(0);  // nothing to offset: the failure value
         return *this;
     }
     bool const closed = isClosed();
@@ -67,6 +88,9 @@ COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances
         }
     }
     closeGaps(closed, bridgeGaps);
+    if (!allFinite(*this)) {
+        setLogicalLength(0);  // the offset overflowed
+    }
     return *this;
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -91,6 +92,22 @@ TEST(BoolOperationTest, SelfAndDegenerateOperands) {
         ORX::g_vl_bool(a, rectangle(10, 10, 11, 11), COrxVertexArray::boolDiff);
     EXPECT_NEAR(area(d), area(a), 1e-12);
     EXPECT_EQ(d.len(), 8);
+    // NaN or infinite values give the failure values, never a result holding them.
+    for (double bad : {ORX::nan(), HUGE_VAL, -HUGE_VAL}) {
+        COrxVertexArray broken = rectangle(1, 1, 2, 2);
+        broken[1].set(broken[1].startPoint(), pt(2, bad), 0.0);
+        for (int op = 0; op < 3; ++op) {
+            auto const o = static_cast<COrxVertexArray::boolOper>(op);
+            EXPECT_TRUE(ORX::g_vl_bool(a, broken, o).isEmpty()) << bad;
+            EXPECT_TRUE(ORX::g_vl_bool(broken, a, o).isEmpty()) << bad;
+        }
+        RegionList out;
+        EXPECT_FALSE(ORX::g_region_union(region({a}), region({broken}), out));
+        EXPECT_FALSE(ORX::g_region_diff(region({broken}), region({a}), out));
+        EXPECT_EQ(out.len(), 0u);
+        COrxVertexArray grown = broken;
+        EXPECT_TRUE(grown.offset(0.5, true).isEmpty()) << bad;
+    }
     // A single segment and a zero-length one.
     COrxVertexArray one(COrxVertex(pt(0, 0), pt(1, 1), 0.0));
     (void)ORX::g_vl_bool(one, a, COrxVertexArray::boolUnion);
