@@ -70,6 +70,10 @@ def parse_arguments():
     parser.add_argument("--max-holes", type=int, help="largest plate to run")
     parser.add_argument("--filter", help="--benchmark_filter of the run")
     parser.add_argument("--repetitions", type=int, default=3)
+    parser.add_argument("--time", choices=["cpu", "real"], default="cpu",
+                        help="CPU time of the benchmark's thread (default: steadier on a "
+                        "shared machine, where wall time counts the waits for other jobs) "
+                        "or wall time")
     parser.add_argument("--save", help="keep the run's JSON in this file")
     parser.add_argument("--json", action="append", help="read results instead of running")
     return parser.parse_args()
@@ -103,9 +107,9 @@ class Case:
         return statistics.median(self.times)
 
 
-def collect(runs):
-    """Cases by (library, operation, input, size) from the iteration rows of the runs; a
-    later run replaces an earlier one's case."""
+def collect(runs, clock):
+    """Cases by (library, operation, input, size) from the iteration rows of the runs, timed
+    by clock ("cpu" or "real"); a later run replaces an earlier one's case."""
     cases = {}
     for run in runs:
         fresh = {}
@@ -117,7 +121,7 @@ def collect(runs):
                 continue
             key = (key[0], key[1], key[2], int(key[3]))
             case = fresh.setdefault(key, Case())
-            case.times.append(row["real_time"] * TO_MILLISECONDS[row["time_unit"]])
+            case.times.append(row[clock + "_time"] * TO_MILLISECONDS[row["time_unit"]])
             for name in ("area", "points"):
                 if name in row:
                     case.counters[name] = row[name]
@@ -134,6 +138,10 @@ def format_time(ms, operation):
     if value >= 1:
         return "%.2f" % value
     return "%.3g" % value
+
+
+def format_ratio(ratio):
+    return "%.2f" % ratio if ratio >= 0.1 else "%.2g" % ratio
 
 
 def peer_case(cases, peer, operation, shape, size):
@@ -172,8 +180,8 @@ def print_times_beside_peers(cases):
             if other is None:
                 line += " — | — |"
             else:
-                line += " %s | %.2f |" % (format_time(other.median(), operation),
-                                          mine / other.median())
+                line += " %s | %s |" % (format_time(other.median(), operation),
+                                        format_ratio(mine / other.median()))
         print(line)
 
 
@@ -232,12 +240,13 @@ def main():
                 runs.append(json.load(file))
     else:
         runs = [run_program(arguments)]
-    cases = collect(runs)
+    cases = collect(runs, arguments.time)
     context = runs[-1].get("context", {})
     counts = sorted({len(case.times) for case in cases.values()})
     repetitions = "%d" % counts[0] if len(counts) == 1 else "%d to %d" % (counts[0], counts[-1])
-    print("Median real time of %s repetitions in ms (point queries: µs per point); "
-          "%s CPUs, run of %s." % (repetitions, context.get("num_cpus", "?"),
+    print("Median %s time of %s repetitions in ms (point queries: µs per point); "
+          "%s CPUs, run of %s." % (arguments.time.upper() if arguments.time == "cpu" else
+                                   arguments.time, repetitions, context.get("num_cpus", "?"),
                                    context.get("date", "?")))
     print()
     print_times_beside_peers(cases)
