@@ -170,6 +170,10 @@ private:
     // closing joint when the polyline was closed); then close what gaps remain.
     void trimJoints(bool closed);
     void closeGaps(bool closed, bool bridgeGaps);
+    // Keeps the segments (and their directions) for which keep(segment, direction) holds;
+    // true when some were removed.
+    template <class Keep>
+    bool keepSegments(COrxArrayTempl<COrxVector3d>& directions, Keep keep);
     static COrxVertex& sharedDefault();
     static COrxVertex const& sharedConstDefault();
 
