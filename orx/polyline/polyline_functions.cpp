@@ -88,7 +88,7 @@ double g_vl_area(COrxVertexArray const& vl) {
         total += (a.x * b.y - b.x * a.y) / 2;
         total += g_bulg_area(v.startPoint(), v.endPoint(), v.bulge());
     }
-    return total;
+    return std::isfinite(total) ? total : ORX::nan();  // an overflow is no answer
 }
 
 namespace {
