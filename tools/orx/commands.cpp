@@ -10,6 +10,7 @@
 #include "orx/services/version.h"
 #include "region_operations.h"
 #include "safe_measures.h"
+#include "section_report.h"
 #include "shape_info.h"
 #include "tool_error.h"
 
@@ -178,6 +179,9 @@ int runInfo(std::string const& input) {
                 counted(grouping.regions.size(), "region").c_str());
     if (!drawing.contents.empty()) {
         std::printf("entities read: %s\n", drawing.contents.c_str());
+    }
+    if (!grouping.regions.empty() || !grouping.leftOut.empty()) {
+        std::fputs(sectionLegend().c_str(), stdout);
     }
     for (std::size_t i = 0; i < drawing.polylines.size(); ++i) {
         std::fputs(
