@@ -55,8 +55,9 @@ public:
     COrxVertex& operator[](int i);
     COrxVertex const& operator[](int i) const;
     // The segments as one block, len() of them (null when empty): for passes over all
-    // segments that need no index rules.
+    // segments that need no index rules. Valid until the length or the capacity changes.
     COrxVertex const* data() const { return m_vertices; }
+    COrxVertex* data() { return m_vertices; }
 
     // --- Building and editing ---
     COrxVertexArray& append(COrxVertex const& v);

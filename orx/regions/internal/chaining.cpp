@@ -31,7 +31,8 @@ std::uint64_t cellKey(std::int64_t x, std::int64_t y) {
 class Chainer {
 public:
     explicit Chainer(COrxVertexArray& vl)
-        : m_vl(vl),
+        : m_vl(vl.data()),
+          m_count(vl.len()),
           m_width(2 * COrxPoint3d::tol),
           m_position(static_cast<std::size_t>(vl.len())),
           m_id(static_cast<std::size_t>(vl.len())) {
@@ -45,7 +46,7 @@ public:
         if (m_head.empty()) {
             build();
         }
-        int found = m_vl.len();
+        int found = m_count;
         // Points within the tolerance of p lie in the two-by-two cells around it.
         double const t = COrxPoint3d::tol;
         std::int64_t const x0 = cellNumber(p.x - t, m_width), y0 = cellNumber(p.y - t, m_width);
@@ -81,12 +82,12 @@ private:
     // segments are kept by their first position.
     void build() {
         std::size_t size = 16;
-        while (size < 2 * static_cast<std::size_t>(m_vl.len())) {
+        while (size < 2 * static_cast<std::size_t>(m_count)) {
             size *= 2;
         }
         m_head.assign(size, -1);
-        m_next.assign(static_cast<std::size_t>(m_vl.len()), -1);
-        for (int k = 0; k < m_vl.len(); ++k) {
+        m_next.assign(static_cast<std::size_t>(m_count), -1);
+        for (int k = 0; k < m_count; ++k) {
             COrxPoint3d const& p = m_vl[k].startPoint();
             int const id = m_id[static_cast<std::size_t>(k)];
             std::size_t const b = bucket(cellNumber(p.x, m_width), cellNumber(p.y, m_width));
@@ -100,7 +101,8 @@ private:
         return static_cast<std::size_t>((key ^ (key >> 29)) & (m_head.size() - 1));
     }
 
-    COrxVertexArray& m_vl;
+    COrxVertex* m_vl;  // the segments, stored in place
+    int m_count;
     double m_width;
     std::vector<int> m_position;  // by first position: where the segment is now
     std::vector<int> m_id;        // by position: the segment's first position
@@ -110,12 +112,13 @@ private:
 
 }  // namespace
 
-void chainHeadToTail(COrxVertexArray& vl) {
-    int const n = vl.len();
+void chainHeadToTail(COrxVertexArray& segments) {
+    int const n = segments.len();
     if (n < 2) {
         return;
     }
-    Chainer chainer(vl);
+    Chainer chainer(segments);
+    COrxVertex* vl = segments.data();
     for (int i = 1; i < n; ++i) {
         COrxPoint3d const end = vl[i - 1].endPoint();
         int const follower = vl[i].startPoint() == end ? i : chainer.follower(i, end);

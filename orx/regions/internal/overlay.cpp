@@ -235,6 +235,11 @@ void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
         if (k < pieces.len() && pieces[k].startPoint() == pieces[k - 1].endPoint()) {
             continue;
         }
+        if (begin == 0 && k == pieces.len() &&
+            pieces[k - 1].endPoint() == pieces[0].startPoint()) {
+            takeIfClosed(pieces, take);  // all pieces form one loop: no copy
+            return;
+        }
         chain.setLogicalLength(k - begin);
         for (int i = begin; i < k; ++i) {
             chain[i - begin] = pieces[i];
