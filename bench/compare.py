@@ -47,6 +47,7 @@ OPERATION_LABEL = {
     "intersect": "intersectWith",
     "pt_inside": "g_vl_pt_inside (µs per point)",
     "pt_in_region": "g_vll_pt_inside (µs per point)",
+    "prepared_pt_inside": "COrxOutlineIndex::inside (µs per point)",
     "offset": "offset",
     "norm": "norm(false)",
     "pts": "pts(true, 0.01)",

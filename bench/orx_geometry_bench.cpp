@@ -91,6 +91,16 @@ void pointInRegion(benchmark::State& state, Shape shape, int segments) {
     state.SetItemsProcessed(state.iterations());
 }
 
+// The outline indexed once, outside the measured loop: the cost of one query.
+void preparedPointInside(benchmark::State& state, Shape shape, int segments) {
+    COrxOutlineIndex const index(outlines(shape, segments).a);
+    long k = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(index.inside(gridPoint(k++), false));
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
 // offset and norm work in place: each iteration works on a fresh copy of the outline, and
 // the copy (a plain copy of the segments) is part of the measured time.
 void offset(benchmark::State& state, Shape shape, int segments) {
@@ -154,6 +164,7 @@ void registerOrxOutlineCase(Shape shape, int segments) {
     add("intersect", ms, [=](auto& s) { intersections(s, shape, segments); });
     add("pt_inside", us, [=](auto& s) { pointInside(s, shape, segments); });
     add("pt_in_region", us, [=](auto& s) { pointInRegion(s, shape, segments); });
+    add("prepared_pt_inside", us, [=](auto& s) { preparedPointInside(s, shape, segments); });
     add("offset", ms, [=](auto& s) { offset(s, shape, segments); });
     add("norm", ms, [=](auto& s) { norm(s, shape, segments); });
     add("pts", ms, [=](auto& s) { points(s, shape, segments); });
