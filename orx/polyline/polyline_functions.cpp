@@ -21,6 +21,9 @@ int innerPointCount(COrxVertex const& v, int n, double theta) {
     if (n < 1) {
         return g_bulg_split(v);
     }
+    if (std::isnan(theta)) {
+        return 1;  // a NaN bulge: one point (of NaN) carries it into the result
+    }
     double const pieces = std::fabs(std::trunc(n * theta / kPi));
     if (!(pieces < kMaxArcPieces)) {
         return kMaxArcPieces;
