@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/geom/internal/area_moments.h"
+#include "orx/geom/shared/area_moments.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/tolerance.h"
 #include "orx/plane_geometry/angles.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 

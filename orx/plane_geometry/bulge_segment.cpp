@@ -4,9 +4,9 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/bulges.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/plane_geometry/internal/exact_sign.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 

@@ -6,7 +6,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 

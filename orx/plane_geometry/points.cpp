@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"

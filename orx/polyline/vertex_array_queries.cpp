@@ -5,8 +5,8 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
 

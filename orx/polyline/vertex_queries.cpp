@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/plane_geometry/plane_geometry.h"
 #include "orx/polyline/vertex.h"
 

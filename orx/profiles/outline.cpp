@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "orx/polyline/internal/loop_moments.h"
+#include "orx/polyline/shared/loop_moments.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/profiles/internal/outline_generators.h"
 

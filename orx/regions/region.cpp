@@ -11,8 +11,8 @@
 
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/geom/tolerance.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/indexed_polyline.h"

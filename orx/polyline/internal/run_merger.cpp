@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 
 namespace ORX {
 namespace internal {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/internal/strip_index.h"
 

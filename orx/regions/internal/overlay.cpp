@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/pair_cutting.h"
 #include "orx/regions/internal/piece_loop.h"

@@ -1,4 +1,4 @@
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 
 #include <algorithm>
 #include <cmath>

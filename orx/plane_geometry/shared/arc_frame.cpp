@@ -1,11 +1,11 @@
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/shared/curve.h"
 
 namespace ORX {
 namespace internal {

@@ -5,8 +5,8 @@
 // can report nothing. The operations that test many pairs use this to skip pairs, and give
 // exactly the results of testing every pair. Comparisons are written so that a NaN anywhere
 // counts as "may meet": such segments are always tested.
-#ifndef ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
-#define ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
+#ifndef ORX_POLYLINE_SHARED_SEGMENT_BOX_H
+#define ORX_POLYLINE_SHARED_SEGMENT_BOX_H
 
 #include <vector>
 
@@ -54,4 +54,4 @@ std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl);
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
+#endif  // ORX_POLYLINE_SHARED_SEGMENT_BOX_H

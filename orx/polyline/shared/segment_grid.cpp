@@ -1,4 +1,4 @@
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_grid.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,13 +5,13 @@
 // tests of segment_box.h decide), as ascending, unique indexes, so that callers can visit
 // candidates in the same order as a loop over all segments would. The grid is built for the
 // point tolerance of the moment; it stays valid while the tolerance does not grow.
-#ifndef ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
-#define ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
+#ifndef ORX_POLYLINE_SHARED_SEGMENT_GRID_H
+#define ORX_POLYLINE_SHARED_SEGMENT_GRID_H
 
 #include <vector>
 
 #include "orx/geom/point.h"
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 
 namespace ORX {
 namespace internal {
@@ -45,4 +45,4 @@ private:
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
+#endif  // ORX_POLYLINE_SHARED_SEGMENT_GRID_H
