@@ -81,6 +81,10 @@ public:
     // [0, 2pi): the sweep of the arc that setEndPoint(q) makes.
     double sweepTo(FramePoint const& q) const;
 
+    // The segment start-end-bulge lies within the point tolerance of this circle (or line)
+    // at its ends and at its middle.
+    bool holdsArc(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) const;
+
     // The segment's circle (or line) in drawing units relative to the world point (ox, oy).
     Curve curveAbout(double ox, double oy) const;
     // The chord midpoint.
