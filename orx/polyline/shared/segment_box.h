@@ -35,6 +35,13 @@ SegmentBox tightBox(COrxVertex const& v);
 // tolerance (a few of them) and the rounding of coordinates as large as the box's.
 double pruneMargin(SegmentBox const& box);
 
+// The box grown by margin on every side.
+SegmentBox widened(SegmentBox box, double margin);
+// The box widened by pruneMargin(box): what a pruning test compares against.
+SegmentBox prunedBox(SegmentBox const& box);
+// Every bound is a finite number (a NaN box, or one that overflowed, is not).
+bool finiteBox(SegmentBox const& box);
+
 // The tests widen the boxes by pruneMargin at the moment they are asked, so a tolerance
 // changed after the boxes were made is honoured.
 // False only when the two segments certainly cannot meet.

@@ -16,16 +16,6 @@ constexpr int kMaxCellsPerSide = 2048;
 // A box spanning more cells than this goes to the always-tested list instead.
 constexpr long long kMaxCellsPerBox = 64;
 
-SegmentBox wideBox(SegmentBox box) {
-    double const margin = pruneMargin(box);
-    return SegmentBox{box.xmin - margin, box.ymin - margin, box.xmax + margin, box.ymax + margin};
-}
-
-bool finite(SegmentBox const& b) {
-    return std::isfinite(b.xmin) && std::isfinite(b.ymin) && std::isfinite(b.xmax) &&
-           std::isfinite(b.ymax);
-}
-
 int clampCell(double value, int count) {
     if (!(value >= 0.0)) {
         return 0;
@@ -51,8 +41,8 @@ SegmentGrid::SegmentGrid(std::vector<SegmentBox> const& boxes) {
     SegmentBox all{0, 0, 0, 0};
     double widths = 0.0, heights = 0.0;
     for (SegmentBox const& box : boxes) {
-        wide.push_back(wideBox(box));
-        if (finite(wide.back())) {
+        wide.push_back(prunedBox(box));
+        if (finiteBox(wide.back())) {
             SegmentBox const& w = wide.back();
             all = finiteCount > 0
                       ? SegmentBox{std::min(all.xmin, w.xmin), std::min(all.ymin, w.ymin),
@@ -75,7 +65,7 @@ SegmentGrid::SegmentGrid(std::vector<SegmentBox> const& boxes) {
     m_cellStart.assign(static_cast<std::size_t>(m_nx) * m_ny + 1, 0);
     for (std::size_t k = 0; k < wide.size(); ++k) {
         CellRange& r = ranges[k];
-        if (!finite(wide[k]) || !cellRange(wide[k], r) ||
+        if (!finiteBox(wide[k]) || !cellRange(wide[k], r) ||
             static_cast<long long>(r.x1 - r.x0 + 1) * (r.y1 - r.y0 + 1) > kMaxCellsPerBox) {
             m_everywhere.push_back(static_cast<int>(k));
             continue;
@@ -161,9 +151,9 @@ void SegmentGrid::finish(std::vector<int>& out) {
 
 void SegmentGrid::query(SegmentBox const& box, std::vector<int>& out) const {
     out = m_everywhere;
-    SegmentBox const wide = wideBox(box);
+    SegmentBox const wide = prunedBox(box);
     CellRange range;
-    if (!finite(wide)) {
+    if (!finiteBox(wide)) {
         // A query that cannot be placed may meet anything.
         range = CellRange{0, 0, m_nx - 1, m_ny - 1};
         collect(range, out);
