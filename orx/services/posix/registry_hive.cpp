@@ -208,9 +208,19 @@ long RegistryHive::useInThisProcess() {
     if (openConnection(m_file, flags, m_immutable, db) != SQLITE_OK) {
         return kErrorRegistryIoFailed;
     }
+    // The hive counts as this process's only once its own connection is ready: after a
+    // failure the next use tries again instead of going on with a half-configured connection.
+    // The inherited connection stays unused meanwhile.
+    sqlite3* const inherited = m_db;
     m_db = db;
+    long const error = configure();
+    if (error != kErrorSuccess) {
+        sqlite3_close(db);
+        m_db = inherited;
+        return error;
+    }
     m_process = getpid();
-    return configure();
+    return kErrorSuccess;
 }
 
 bool RegistryHive::identify(std::string const& file, std::uint64_t& device, std::uint64_t& inode) {
