@@ -173,7 +173,8 @@ public:
     // z, j, t; %p prints the pointer as upper-case hex digits filling its width. Numbers are
     // written as the C99 runtimes write them (two-digit exponents, "inf", "nan"), identically
     // on both platforms. An unknown conversion is copied as written, %n writes nothing. A
-    // null format gives the null string, as does a result of more than 2^30 characters.
+    // null format gives the null string, as does a result of more than 2^30 characters or
+    // one there is no memory for.
     COrxString& format(wchar_t const* fmt, ...);
     COrxString& formatV(wchar_t const* fmt, va_list args);
 

@@ -8,13 +8,15 @@
 // library parses the format itself, with the Windows conventions for the arguments, and
 // formats each number with the C99 narrow formatter, which writes the same text on every
 // platform. Infinities and NaNs are written here ("inf", "nan"), since runtimes disagree.
+#include <algorithm>
 #include <cmath>
 #include <cstdarg>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <cwchar>
-#include <new>
+#include <exception>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -23,11 +25,8 @@
 
 namespace {
 
-// The size of the first scratch buffer of format(); it doubles while the result does not
-// fit.
-constexpr std::size_t kFirstScratchSize = 128;
-
-// The output of one format call: writes what fits, counts everything.
+// The output of one format call: writes what fits, counts everything. With no room at all
+// it only measures.
 class Output {
 public:
     Output(wchar_t* buffer, std::size_t size) : m_buffer(buffer), m_size(size), m_count(0) {}
@@ -39,15 +38,21 @@ public:
         ++m_count;
     }
     void put(wchar_t const* text, std::size_t n) {
-        for (std::size_t k = 0; k < n; ++k) {
-            put(text[k]);
+        std::size_t const fitting = std::min(n, room());
+        if (fitting > 0) {
+            std::copy(text, text + fitting, m_buffer + m_count);
         }
+        m_count += n;
     }
     void repeat(wchar_t c, std::size_t n) {
-        for (std::size_t k = 0; k < n; ++k) {
-            put(c);
+        std::size_t const fitting = std::min(n, room());
+        if (fitting > 0) {
+            std::fill(m_buffer + m_count, m_buffer + m_count + fitting, c);
         }
+        m_count += n;
     }
+    // The length of the whole text, also of what did not fit.
+    std::size_t count() const { return m_count; }
     // The count written, or -1 when the text and its terminator did not fit.
     int finish() {
         if (m_count >= m_size || m_count > ORX::internal::kMaxCapacity) {
@@ -61,9 +66,21 @@ public:
     }
 
 private:
+    std::size_t room() const { return m_count < m_size ? m_size - m_count : 0; }
+
     wchar_t* m_buffer;
     std::size_t m_size;
     std::size_t m_count;
+};
+
+// A copy of a va_list that ends with its scope, also when formatting throws.
+struct ArgumentsCopy {
+    explicit ArgumentsCopy(va_list original) { va_copy(args, original); }
+    ~ArgumentsCopy() { va_end(args); }
+    ArgumentsCopy(ArgumentsCopy const&) = delete;
+    ArgumentsCopy& operator=(ArgumentsCopy const&) = delete;
+
+    va_list args;
 };
 
 // The size of an argument, from the length modifier.
@@ -435,15 +452,9 @@ bool formatConversion(Output& out, Directive const& directive, va_list& args) {
     }
 }
 
-}  // namespace
-
-namespace ORX {
-namespace internal {
-
-int formatWide(wchar_t* buffer, std::size_t size, wchar_t const* fmt, va_list args) {
-    Output out(buffer, size);
-    va_list work;
-    va_copy(work, args);
+// Formats the whole text into out; the caller's arguments are left for another pass.
+void formatInto(Output& out, wchar_t const* fmt, va_list args) {
+    ArgumentsCopy work(args);
     for (wchar_t const* p = fmt; *p != 0; ++p) {
         if (*p != L'%') {
             out.put(*p);
@@ -451,17 +462,32 @@ int formatWide(wchar_t* buffer, std::size_t size, wchar_t const* fmt, va_list ar
         }
         wchar_t const* const start = p;
         ++p;
-        Directive const directive = parseDirective(p, work);
+        Directive const directive = parseDirective(p, work.args);
         if (*p == 0) {
             out.put(start, static_cast<std::size_t>(p - start));  // a directive cut off by the end
             break;
         }
-        if (!formatConversion(out, directive, work)) {
+        if (!formatConversion(out, directive, work.args)) {
             out.put(start, static_cast<std::size_t>(p - start) + 1);  // copied as written
         }
     }
-    va_end(work);
+}
+
+}  // namespace
+
+namespace ORX {
+namespace internal {
+
+int formatWide(wchar_t* buffer, std::size_t size, wchar_t const* fmt, va_list args) {
+    Output out(buffer, size);
+    formatInto(out, fmt, args);
     return out.finish();
+}
+
+std::size_t formattedLength(wchar_t const* fmt, va_list args) {
+    Output out(nullptr, 0);
+    formatInto(out, fmt, args);
+    return out.count();
 }
 
 }  // namespace internal
@@ -475,26 +501,26 @@ COrxString& COrxString::format(wchar_t const* fmt, ...) {
     return *this;
 }
 
+// Measures the text first and formats it once into a scratch buffer of that size: the
+// arguments may point into this string, so it cannot be formatted in place. Only allocation
+// failures are caught (they give the null string); a fault translated into an exception
+// while reading an argument goes on to the caller's handler.
 COrxString& COrxString::formatV(wchar_t const* fmt, va_list args) {
     if (fmt == nullptr) {
         return setNull();
     }
-    for (std::size_t size = kFirstScratchSize; size <= 2 * std::size_t{ORX::internal::kMaxCapacity};
-         size *= 2) {
-        wchar_t* scratch = new (std::nothrow) wchar_t[size];
-        if (scratch == nullptr) {
-            break;
+    try {
+        std::size_t const length = ORX::internal::formattedLength(fmt, args);
+        if (length > ORX::internal::kMaxCapacity) {
+            return setNull();
         }
-        va_list attempt;
-        va_copy(attempt, args);
-        int const n = ORX::internal::formatWide(scratch, size, fmt, attempt);
-        va_end(attempt);
-        if (n >= 0) {
-            assign(scratch, static_cast<std::uint32_t>(n));
-            delete[] scratch;
-            return *this;
+        auto const scratch = std::make_unique<wchar_t[]>(length + 1);
+        int const written = ORX::internal::formatWide(scratch.get(), length + 1, fmt, args);
+        if (written < 0 || !allocBuffer(static_cast<std::uint32_t>(written))) {
+            return setNull();
         }
-        delete[] scratch;
+        return assign(scratch.get(), static_cast<std::uint32_t>(written));
+    } catch (std::exception const&) {
+        return setNull();
     }
-    return setNull();
 }

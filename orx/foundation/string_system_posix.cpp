@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "orx/foundation/internal/string_platform.h"
+#include "orx/foundation/internal/utf8.h"
 
 extern char** environ;
 
@@ -15,19 +16,6 @@ namespace ORX {
 namespace internal {
 
 namespace {
-
-std::string toUtf8(std::wstring_view text) {
-    std::string bytes;
-    bool lossless = true;
-    encodeCodePage(text, kUtf8CodePage, bytes, lossless);
-    return bytes;
-}
-
-std::wstring fromUtf8(std::string_view bytes) {
-    std::wstring text;
-    decodeCodePage(bytes, kUtf8CodePage, text);
-    return text;
-}
 
 bool equalIgnoringAsciiCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
@@ -43,7 +31,8 @@ bool equalIgnoringAsciiCase(std::string_view a, std::string_view b) {
 }
 
 // The value of a variable: an exact match first, then one whose name differs only in case,
-// since client code written for Windows does not mind the case of names.
+// since client code written for Windows does not mind the case of names. The value is decoded
+// as the services decode names, so that an expanded %TEMP% names the folder tmp_dir() does.
 bool lookUp(std::wstring_view name, std::wstring& value) {
     std::string const key = toUtf8(name);
     if (char const* exact = std::getenv(key.c_str())) {

@@ -18,7 +18,11 @@ namespace ORX {
 
 // Length of the ray of the point-in-polyline test, in drawing units.
 constexpr double kPolylineRayLength = 10000000.0;
-// rand() scaled to a direction in [0, 2pi]: 2pi / 32767.
+// rand() scaled to a direction: 2pi / 32767. Where RAND_MAX is 32767 (the Windows runtimes,
+// MinGW's included) the angles cover [0, 2pi]. Where it is 2^31 - 1 (glibc) they reach about
+// 65538 * 2pi; the ray takes their cosine and sine, so they still give directions all round
+// the circle. The scale is the same on every platform: callers rely on the restarts taking
+// exactly rand() times this number.
 constexpr double kRandomDirectionScale = 0.00019175345033660654;
 // The point-in-polyline test restarts in a random direction when its ray passes through a
 // segment end. A direction that misses every end always exists, so this cap is never reached

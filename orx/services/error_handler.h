@@ -31,6 +31,7 @@
 #define ORX_SERVICES_ERROR_HANDLER_H
 
 #include "orx/foundation/obj.h"
+#include "orx/services/windows_types.h"
 
 namespace ORX {
 

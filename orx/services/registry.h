@@ -50,6 +50,7 @@
 #include "orx/foundation/array_templ.h"
 #include "orx/foundation/platform.h"
 #include "orx/foundation/string.h"
+#include "orx/services/windows_types.h"
 
 namespace ORX {
 

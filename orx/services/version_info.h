@@ -18,6 +18,7 @@
 #include <cstddef>
 
 #include "orx/foundation/platform.h"
+#include "orx/services/windows_types.h"
 
 namespace ORX {
 

@@ -80,19 +80,32 @@ TEST(COrxStringFormatTest, PercentPointerAndOddConversions) {
     EXPECT_EQ(ignored, 0);
 }
 
-TEST(COrxStringFormatTest, LongResultsGrowTheScratchBuffer) {
+TEST(COrxStringFormatTest, LongResultsKeepEveryCharacter) {
     std::wstring const part(100, L'x');
     COrxString s;
     s.format(L"%s-%s-%s", part.c_str(), part.c_str(), part.c_str());  // 302 characters
     ASSERT_EQ(s.len(), 302);
     EXPECT_EQ(s[100], L'-');
     EXPECT_EQ(s[-1], L'x');
-    // Exactly at the edges of the first buffer of 128 characters.
+    // Around the string's own capacities (it doubles from 16 characters).
     std::wstring const edge(127, L'e');
     EXPECT_EQ(COrxString().format(L"%s", edge.c_str()).len(), 127);
     EXPECT_EQ(COrxString().format(L"%s!", edge.c_str()).len(), 128);
     std::wstring const big(70000, L'b');
     EXPECT_EQ(COrxString().format(L"%s%d", big.c_str(), 12).len(), 70002);
+}
+
+TEST(COrxStringFormatTest, AResultBeyondTheLargestStringIsMeasuredNotMade) {
+    // 2^30 + 2 characters: the null string, told from the length alone (the padding is
+    // counted, not written, so this takes no memory and no time).
+    int const half = (1 << 29) + 1;
+    COrxString s(L"before");
+    EXPECT_TRUE(s.format(L"%*s%*s", half, L"a", half, L"b").isNull());
+    // The arguments are read again for the text itself: a width taken from them and an
+    // argument of the string being formatted both survive the measuring.
+    s = L"abc";
+    s.format(L"[%*s|%s]", 5, static_cast<wchar_t const*>(s), static_cast<wchar_t const*>(s));
+    EXPECT_EQ(std::wstring(s), L"[  abc|abc]");
 }
 
 TEST(COrxStringFormatTest, NullFormatGivesTheNullString) {

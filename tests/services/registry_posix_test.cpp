@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -245,4 +247,29 @@ TEST_F(RegistryProcessesTest, AKilledWriterLeavesEveryCommittedValue) {
                 << "trial " << trial;
         }
     }
+}
+
+// A process made by fork() opens its own connection to a hive at its first use. When that
+// fails (here the machine hive's file is briefly not a database), the next use tries again
+// instead of going on with the connection that failed.
+TEST_F(RegistryProcessesTest, AForkedProcessRetriesAHiveItCouldNotOpen) {
+    orx_test::Key key(ORX::regCreateKey(HKEY_LOCAL_MACHINE, L"Software\\OrxFork"));
+    ASSERT_NE(key.get(), nullptr);
+    ASSERT_TRUE(ORX::regWrite(key, L"n", 7ul));
+    std::string const file = (m_folder.folder() / "machine.db").string();
+    std::string const aside = file + ".aside";
+
+    pid_t const child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        unsigned long value = 0;
+        bool const moved = std::rename(file.c_str(), aside.c_str()) == 0;
+        std::ofstream(file) << std::string(4096, 'x');
+        bool const failed = !ORX::regRead(key, L"n", value);
+        bool const restored = std::rename(aside.c_str(), file.c_str()) == 0;
+        bool const retried = ORX::regRead(key, L"n", value) && value == 7;
+        _exit(!moved || !restored ? 3 : !failed ? 2 : !retried ? 1 : 0);
+    }
+    // 3: the file could not be swapped, 2: the broken file was read, 1: no second try.
+    EXPECT_EQ(orx_test::waitForExit(child), 0);
 }

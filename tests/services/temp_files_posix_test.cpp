@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "orx/foundation/string.h"
 #include "orx/services/files.h"
 #include "orx/services/internal/temp_name.h"
 #include "test_support.h"
@@ -97,4 +98,20 @@ TEST(TmpDirPosixTest, AFolderOthersControlIsRefused) {
     fs::create_directory(folder);
     ASSERT_EQ(chown(folder.c_str(), 65534, 65534), 0);  // nobody
     EXPECT_EQ(std::wstring(ORX::tmp_dir()), L"");
+}
+
+// A folder whose name is not UTF-8 (the byte 0xFF) is the same folder to the environment
+// expansion and to tmp_dir(), and it exists under the name both give.
+TEST(TmpDirPosixTest, AFolderNameThatIsNotUtf8ReadsAlikeEverywhere) {
+    ScratchDirectory scratch;
+    fs::path const folder = scratch.path() / "temp\xFF";
+    fs::create_directory(folder);
+    ScopedEnv temp("TEMP", folder.string());
+
+    COrxString expanded(L"%TEMP%");
+    expanded.expandEnvironmentStrings();
+    EXPECT_TRUE(ORX::fileExist(expanded));
+    std::wstring const user = fs::path(userFolder()).wstring();
+    EXPECT_EQ(std::wstring(ORX::tmp_dir()), std::wstring(expanded) + L"/" + user + L"/");
+    EXPECT_TRUE(fs::is_directory(folder / userFolder()));
 }

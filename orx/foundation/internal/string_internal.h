@@ -91,6 +91,8 @@ std::wstring unescapeWideChars(std::wstring_view text);
 // characters (terminator included). Returns the number of characters written, or -1 when
 // the result and its terminator do not fit.
 int formatWide(wchar_t* buffer, std::size_t size, wchar_t const* fmt, va_list args);
+// The length formatWide's result has (terminator not counted), without writing it.
+std::size_t formattedLength(wchar_t const* fmt, va_list args);
 
 }  // namespace internal
 }  // namespace ORX

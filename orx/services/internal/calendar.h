@@ -7,6 +7,7 @@
 #include <string>
 
 #include "orx/foundation/platform.h"
+#include "orx/services/windows_types.h"
 
 namespace ORX::internal {
 

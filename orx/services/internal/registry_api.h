@@ -9,6 +9,7 @@
 
 #include "orx/foundation/platform.h"
 #include "orx/foundation/string.h"
+#include "orx/services/windows_types.h"
 
 namespace ORX::internal {
 

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "orx/services/internal/calendar.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "orx/services/com.h"
 #include "orx/services/internal/com_server.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX {
 namespace {

@@ -12,7 +12,7 @@
 
 #include "orx/services/internal/file_system.h"
 #include "orx/services/posix/mount_table.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 

@@ -8,7 +8,7 @@
 
 #include "orx/foundation/string.h"
 #include "orx/services/internal/file_system.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "orx/services/internal/registry_api.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

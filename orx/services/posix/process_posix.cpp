@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "orx/services/posix/command_line.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 #include "orx/services/process.h"
 
 extern char** environ;

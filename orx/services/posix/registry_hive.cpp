@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <utility>
 
 #include "orx/services/internal/registry_api.h"
@@ -21,7 +22,7 @@ constexpr int kSchemaVersion = 1;
 
 // AUTOINCREMENT keeps key ids from being reused after a deletion. Deleting a key deletes its
 // sub-keys and values through the foreign keys.
-constexpr char const* kSchema = R"sql(
+constexpr char const* kTables = R"sql(
 CREATE TABLE IF NOT EXISTS keys(
     id INTEGER PRIMARY KEY AUTOINCREMENT,
     parent INTEGER REFERENCES keys(id) ON DELETE CASCADE,
@@ -35,9 +36,15 @@ CREATE TABLE IF NOT EXISTS vals(
     type INTEGER NOT NULL,
     data BLOB NOT NULL,
     PRIMARY KEY(key, folded)) WITHOUT ROWID;
-INSERT OR IGNORE INTO keys(id, parent, name, folded) VALUES(1, NULL, '', '');
-PRAGMA user_version = 1;
 )sql";
+
+// The tables, the root key (unnamed, without a parent) and the schema's version.
+std::string schemaText() {
+    return std::string(kTables) +
+           "INSERT OR IGNORE INTO keys(id, parent, name, folded) VALUES(" +
+           std::to_string(RegistryHive::kRootKey) + ", NULL, '', '');\n" +
+           "PRAGMA user_version = " + std::to_string(kSchemaVersion) + ";\n";
+}
 
 long errorFrom(int result) {
     switch (result & 0xFF) {
@@ -208,9 +215,19 @@ long RegistryHive::useInThisProcess() {
     if (openConnection(m_file, flags, m_immutable, db) != SQLITE_OK) {
         return kErrorRegistryIoFailed;
     }
+    // The hive counts as this process's only once its own connection is ready: after a
+    // failure the next use tries again instead of going on with a half-configured connection.
+    // The inherited connection stays unused meanwhile.
+    sqlite3* const inherited = m_db;
     m_db = db;
+    long const error = configure();
+    if (error != kErrorSuccess) {
+        sqlite3_close(db);
+        m_db = inherited;
+        return error;
+    }
     m_process = getpid();
-    return configure();
+    return kErrorSuccess;
 }
 
 bool RegistryHive::identify(std::string const& file, std::uint64_t& device, std::uint64_t& inode) {
@@ -285,7 +302,7 @@ long RegistryHive::createSchema() {
     if (transaction.begun() != kErrorSuccess) {
         return transaction.begun();
     }
-    return transaction.finish(errorFrom(sqliteExecute(m_db, kSchema)));
+    return transaction.finish(errorFrom(sqliteExecute(m_db, schemaText().c_str())));
 }
 
 bool RegistryHive::keyExists(RegistryKeyId key) {

@@ -19,7 +19,7 @@
 #include "orx/services/internal/registry_api.h"
 #include "orx/services/posix/registry_hive.h"
 #include "orx/services/posix/registry_location.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "orx/services/internal/version_strings.h"
 #include "orx/services/posix/elf_section.h"
-#include "orx/services/posix/utf8.h"
+#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {
