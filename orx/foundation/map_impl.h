@@ -119,7 +119,7 @@ bool COrxMapTempl<K, V>::grow() {
         return false;
     }
     if (m_count > 0) {
-        std::memcpy(table, m_table, m_count * sizeof(data*));
+        std::memcpy(table, m_table, m_count * sizeof(*table));
     }
     delete[] m_table;
     m_table = table;
@@ -132,7 +132,7 @@ bool COrxMapTempl<K, V>::insertAt(unsigned long index, data* entry) {
     if (!grow()) {
         return false;
     }
-    std::memmove(m_table + index + 1, m_table + index, (m_count - index) * sizeof(data*));
+    std::memmove(m_table + index + 1, m_table + index, (m_count - index) * sizeof(*m_table));
     m_table[index] = entry;
     ++m_count;
     return true;
@@ -221,7 +221,7 @@ bool COrxMapTempl<K, V>::removeAt(K const& key) {
     }
     delete m_table[index];
     --m_count;
-    std::memmove(m_table + index, m_table + index + 1, (m_count - index) * sizeof(data*));
+    std::memmove(m_table + index, m_table + index + 1, (m_count - index) * sizeof(*m_table));
     m_table[m_count] = nullptr;
     return true;
 }

@@ -1,5 +1,5 @@
 // Random bytes on Linux: getrandom(2), the kernel's random source.
-#include <errno.h>
+#include <cerrno>
 #include <sys/random.h>
 
 #include "orx/foundation/shared/random_bytes.h"

@@ -49,6 +49,9 @@ COrxMatrix3d::COrxMatrix3d(double const (*block)[4]) {
 COrxMatrix3d::~COrxMatrix3d() = default;
 
 COrxMatrix3d& COrxMatrix3d::operator=(COrxMatrix3d const& other) {
+    if (this == &other) {
+        return *this;
+    }
     return *this = other.m;
 }
 

@@ -8,8 +8,7 @@
 
 COrxPlane::COrxPlane() : m_origin(0.0, 0.0, 0.0), m_normal(COrxVector3d::kZAxis) {}
 
-COrxPlane::COrxPlane(COrxPlane const& other)
-    : COrxObj(other), m_origin(other.m_origin), m_normal(other.m_normal) {}
+COrxPlane::COrxPlane(COrxPlane const& other) = default;
 
 COrxPlane::COrxPlane(COrxPoint3d const& origin, COrxVector3d const& normal) {
     set(origin, normal);

@@ -8,12 +8,7 @@
 
 COrxVertex::COrxVertex() : m_bulge(0.0), m_tag(0) {}
 
-COrxVertex::COrxVertex(COrxVertex const& other)
-    : COrxObj(other),
-      m_start(other.m_start),
-      m_end(other.m_end),
-      m_bulge(other.m_bulge),
-      m_tag(other.m_tag) {}
+COrxVertex::COrxVertex(COrxVertex const& other) = default;
 
 COrxVertex& COrxVertex::operator=(COrxVertex const& other) {
     m_start = other.m_start;

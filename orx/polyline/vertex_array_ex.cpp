@@ -6,20 +6,14 @@
 
 COrxVertexArrayEx::COrxVertexArrayEx() : m_attribute(0), m_text(L"") {}
 
-COrxVertexArrayEx::COrxVertexArrayEx(COrxVertexArrayEx const& other)
-    : COrxVertexArray(other), m_attribute(other.m_attribute), m_text(other.m_text) {}
+COrxVertexArrayEx::COrxVertexArrayEx(COrxVertexArrayEx const& other) = default;
 
 COrxVertexArrayEx::COrxVertexArrayEx(COrxVertexArray const& vl)
     : COrxVertexArray(vl), m_attribute(0), m_text(L"") {}
 
 COrxVertexArrayEx::~COrxVertexArrayEx() = default;
 
-COrxVertexArrayEx& COrxVertexArrayEx::operator=(COrxVertexArrayEx const& other) {
-    COrxVertexArray::operator=(other);
-    m_attribute = other.m_attribute;
-    m_text = other.m_text;
-    return *this;
-}
+COrxVertexArrayEx& COrxVertexArrayEx::operator=(COrxVertexArrayEx const& other) = default;
 
 COrxVertexArrayEx& COrxVertexArrayEx::operator=(COrxVertexArray const& vl) {
     COrxVertexArray::operator=(vl);

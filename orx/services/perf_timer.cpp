@@ -38,11 +38,7 @@ CPerfTimer::CPerfTimer(CPerfTimer const& other) : m_name(other.m_name), m_timer(
     ++m_Level;
 }
 
-CPerfTimer& CPerfTimer::operator=(CPerfTimer const& other) {
-    m_name = other.m_name;
-    m_timer = other.m_timer;
-    return *this;
-}
+CPerfTimer& CPerfTimer::operator=(CPerfTimer const& other) = default;
 
 CPerfTimer::~CPerfTimer() {
     --m_Level;

@@ -20,7 +20,7 @@ CLock::CLock(CCriticalSect& section) : m_section(section) {
     m_section.Enter();
 }
 
-CLock::CLock(CLock const& other) : m_section(other.m_section) {}
+CLock::CLock(CLock const& other) = default;
 
 CLock::~CLock() {
     m_section.Leave();

@@ -56,7 +56,7 @@ std::string hex(unsigned handle) {
 class DxfWriter {
 public:
     explicit DxfWriter(std::vector<VertexList> const& lists) : m_lists(lists) {
-        m_layers.push_back(kDefaultLayer);
+        m_layers.emplace_back(kDefaultLayer);
         for (VertexList const& list : lists) {
             if (std::find(m_layers.begin(), m_layers.end(), list.layer) == m_layers.end()) {
                 m_layers.push_back(list.layer);

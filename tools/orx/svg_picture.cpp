@@ -46,7 +46,7 @@ std::vector<std::string> wrapped(std::string const& caption, std::size_t width) 
         std::size_t end = comma == std::string::npos ? caption.size() : comma + 2;
         std::string piece = caption.substr(start, end - start);
         if (!lines.back().empty() && lines.back().size() + piece.size() > width) {
-            lines.push_back({});
+            lines.emplace_back();
         }
         lines.back() += piece;
         start = end;
@@ -281,7 +281,8 @@ std::string SvgPicture::svg() const {
             lines.push_back(std::move(line));
         }
     }
-    double captionHeight = lines.empty() ? 0.0 : (lines.size() + 0.5) * kCaptionLinePixels;
+    double captionHeight =
+        lines.empty() ? 0.0 : (static_cast<double>(lines.size()) + 0.5) * kCaptionLinePixels;
     int totalHeight = view.heightPixels + static_cast<int>(std::ceil(captionHeight));
     std::ostringstream out;
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << totalWidth << "\" height=\""
@@ -294,7 +295,8 @@ std::string SvgPicture::svg() const {
     }
     out << "</svg>\n";
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        out << "<text x=\"8\" y=\"" << view.heightPixels + (i + 1) * kCaptionLinePixels
+        out << "<text x=\"8\" y=\""
+            << view.heightPixels + static_cast<double>(i + 1) * kCaptionLinePixels
             << "\" font-family=\"sans-serif\" font-size=\"" << kLabelPixels << "\" fill=\"#222\">"
             << xmlEscaped(lines[i]) << "</text>\n";
     }

@@ -3,7 +3,7 @@
 #ifndef ORX_SERVICES_INTERNAL_CALENDAR_H
 #define ORX_SERVICES_INTERNAL_CALENDAR_H
 
-#include <time.h>
+#include <ctime>
 #include <string>
 
 #include "orx/foundation/platform.h"

@@ -68,6 +68,7 @@ void reapLater(pid_t child) {
 
 pid_t spawn(std::vector<std::string> const& arguments) {
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (std::string const& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
     }

@@ -196,7 +196,7 @@ long deliver(std::string const& bytes, unsigned char* data, unsigned long* size)
         return kErrorMoreData;
     }
     if (data != nullptr) {
-        std::memcpy(data, bytes.data(), bytes.size());
+        std::copy(bytes.begin(), bytes.end(), data);  // raw bytes, no terminator of their own
     }
     if (size != nullptr) {
         *size = needed;

@@ -19,7 +19,7 @@ namespace {
 constexpr char kSectionName[] = ".orx_version";
 constexpr std::string_view kMagic("ORXVERSIONINFO\0", 15);
 // A version block is a few hundred bytes; anything far larger is not one.
-constexpr std::size_t kMaxBlockBytes = 64 * 1024;
+constexpr std::size_t kMaxBlockBytes = std::size_t{64} * 1024;
 // The longest path readlink is asked for.
 constexpr std::size_t kMaxPathBytes = 4096;
 // Each part of the fixed product version is a 16-bit number, as in the Windows resource.
