@@ -9,6 +9,7 @@ packages=(
   libsqlite3-dev libsystemd-dev dbus-daemon
   libcli11-dev nlohmann-json3-dev librsvg2-bin python3-ezdxf
   g++-mingw-w64-x86-64-posix wine64
+  clang-format clang-tidy
 )
 
 missing=()

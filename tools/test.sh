@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# The whole test of the project: installs what the builds need, then builds the native,
-# sanitizer and Windows configurations and runs every test of each.
+# The whole test of the project: installs what the builds need, checks the formatting, then
+# builds the native, sanitizer and Windows configurations and runs every test of each; after
+# the native build clang-tidy checks the library and the tool (tools/check.sh). Every public
+# header is compiled on its own as part of each build.
 #     tools/test.sh                 all three
 #     tools/test.sh native windows  only these
 set -euo pipefail
@@ -11,6 +13,9 @@ tools/setup.sh
 presets=("$@")
 [ ${#presets[@]} -eq 0 ] && presets=(native sanitize windows)
 
+echo "== style: formatting"
+tools/check.sh format
+
 for preset in "${presets[@]}"; do
     start=$SECONDS
     echo "== $preset: configure and build"
@@ -20,4 +25,10 @@ for preset in "${presets[@]}"; do
     echo "== $preset: test"
     ctest --preset "$preset"
     echo "== $preset: built in $((built - start)) s, tested in $((SECONDS - built)) s"
+    if [ "$preset" = native ]; then
+        echo "== native: clang-tidy"
+        start=$SECONDS
+        tools/check.sh tidy
+        echo "== native: clang-tidy in $((SECONDS - start)) s"
+    fi
 done
