@@ -7,8 +7,7 @@
 
 COrxArray::COrxArray() : m_capacity(0), m_length(0) {}
 
-COrxArray::COrxArray(COrxArray const& other)
-    : COrxObj(other), m_capacity(other.m_capacity), m_length(other.m_length) {}
+COrxArray::COrxArray(COrxArray const& other) = default;
 
 COrxArray& COrxArray::operator=(COrxArray const& other) {
     m_capacity = other.m_capacity;

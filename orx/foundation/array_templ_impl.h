@@ -213,7 +213,7 @@ template <class T>
 COrxArrayTempl<T>& COrxArrayTempl<T>::append(T const& x) {
     if (m_length == m_capacity && holds(x)) {
         // x lives in the block that is about to move: keep a copy across the growth.
-        T copy(x);
+        T copy(x);  // NOLINT(performance-unnecessary-copy-initialization): x may move
         if (allocate(m_length + 1ul)) {
             storeAt(m_length++, copy);
         }
@@ -253,7 +253,7 @@ COrxArrayTempl<T>& COrxArrayTempl<T>::insertAt(unsigned long i, T const& x) {
     }
     if (holds(x)) {
         // Shifting (or growing) would move x under the reference.
-        T copy(x);
+        T copy(x);  // NOLINT(performance-unnecessary-copy-initialization): x may move
         return insertAt(i, copy);
     }
     std::uint32_t const at = static_cast<std::uint32_t>(i);

@@ -44,7 +44,7 @@
 // The 64-bit integer of the Windows compilers. MinGW's own headers define it as this very
 // macro, but only once one of them is included; an identical redefinition is allowed.
 #if !defined(_MSC_VER) && !defined(__int64)
-#define __int64 long long
+#define __int64 long long  // NOLINT(bugprone-reserved-identifier): the Windows name
 #endif
 
 #endif  // ORX_FOUNDATION_PLATFORM_H

@@ -1,6 +1,6 @@
 // Environment expansion and case mapping on Linux.
-#include <locale.h>
-#include <wctype.h>
+#include <clocale>
+#include <cwctype>
 
 #include <cstdlib>
 #include <cwctype>

@@ -10,8 +10,7 @@ using Parameters = COrxArrayTempl<double>;
 
 CMapDoubleToPoint::CMapDoubleToPoint() = default;
 
-CMapDoubleToPoint::CMapDoubleToPoint(CMapDoubleToPoint const& other)
-    : Parameters(other), m_points(other.m_points) {}
+CMapDoubleToPoint::CMapDoubleToPoint(CMapDoubleToPoint const& other) = default;
 
 CMapDoubleToPoint::~CMapDoubleToPoint() = default;
 

@@ -14,6 +14,8 @@
 
 COrxPoint3dArray::COrxPoint3dArray() : m_points(nullptr) {}
 
+// The counts come with the block, from the assignment.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
 COrxPoint3dArray::COrxPoint3dArray(COrxPoint3dArray const& other) : COrxArray(), m_points(nullptr) {
     *this = other;
 }
@@ -117,7 +119,7 @@ bool COrxPoint3dArray::isMember(COrxPoint3d const& p) const {
 
 COrxPoint3dArray& COrxPoint3dArray::append(COrxPoint3d const& p) {
     if (isMember(p)) {
-        COrxPoint3d const copy(p);
+        COrxPoint3d const copy(p);  // NOLINT(performance-unnecessary-copy-initialization)
         return append(copy);
     }
     int const at = len();
@@ -142,7 +144,7 @@ COrxPoint3dArray& COrxPoint3dArray::appendUniq(COrxPoint3d const& p) {
 
 COrxPoint3dArray& COrxPoint3dArray::insertAt(unsigned int i, COrxPoint3d const& p) {
     if (isMember(p)) {
-        COrxPoint3d const copy(p);
+        COrxPoint3d const copy(p);  // NOLINT(performance-unnecessary-copy-initialization)
         return insertAt(i, copy);
     }
     if (i >= static_cast<unsigned int>(INT_MAX)) {

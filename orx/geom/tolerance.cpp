@@ -8,8 +8,7 @@ COrxPoint3dTol::COrxPoint3dTol(double t) : m_saved(COrxPoint3d::tol) {
     *this = t;
 }
 
-COrxPoint3dTol::COrxPoint3dTol(COrxPoint3dTol const& other)
-    : COrxObj(other), m_saved(other.m_saved) {}
+COrxPoint3dTol::COrxPoint3dTol(COrxPoint3dTol const& other) = default;
 
 COrxPoint3dTol::~COrxPoint3dTol() {
     COrxPoint3d::tol = m_saved;

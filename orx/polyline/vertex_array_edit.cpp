@@ -7,7 +7,8 @@
 
 COrxVertexArray& COrxVertexArray::append(COrxVertex const& v) {
     if (isMember(v)) {
-        COrxVertex const copy(v);  // the storage may move under v
+        COrxVertex const copy(v);  // NOLINT(performance-unnecessary-copy-initialization)  // the
+                                   // storage may move under v
         return append(copy);
     }
     int const index = len();
@@ -32,7 +33,7 @@ COrxVertexArray& COrxVertexArray::append(COrxPoint3d const& p, double bulge) {
 
 COrxVertexArray& COrxVertexArray::insertAt(unsigned int i, COrxVertex const& v) {
     if (isMember(v)) {
-        COrxVertex const copy(v);
+        COrxVertex const copy(v);  // NOLINT(performance-unnecessary-copy-initialization)
         return insertAt(i, copy);
     }
     int const index = len();

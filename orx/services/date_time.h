@@ -17,7 +17,7 @@
 #ifndef ORX_SERVICES_DATE_TIME_H
 #define ORX_SERVICES_DATE_TIME_H
 
-#include <time.h>
+#include <ctime>
 
 #include "orx/foundation/platform.h"
 #include "orx/foundation/string.h"

@@ -25,7 +25,7 @@ std::wstring freeTempName(std::wstring const& folder, std::wstring const& extens
         if (!source(number)) {
             return std::wstring();
         }
-        std::wstring const candidate = folder + L"tmp_" + lowerHex(number) + L"." + extension;
+        std::wstring candidate = folder + L"tmp_" + lowerHex(number) + L"." + extension;
         if (!entryExists(candidate)) {
             return candidate;
         }

@@ -11,6 +11,8 @@
 #ifndef ORX_SERVICES_WINDOWS_TYPES_H
 #define ORX_SERVICES_WINDOWS_TYPES_H
 
+// The names are the Windows headers' own, reserved identifiers included.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 struct HKEY__;
 typedef HKEY__* HKEY;
 struct HINSTANCE__;
@@ -70,5 +72,7 @@ struct _EXCEPTION_POINTERS {
 #define REG_QWORD 11ul
 #define REG_QWORD_LITTLE_ENDIAN 11ul
 #endif
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 #endif  // ORX_SERVICES_WINDOWS_TYPES_H

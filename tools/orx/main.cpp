@@ -150,9 +150,7 @@ std::string versionText() {
     return text;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runTool(int argc, char** argv) {
     CLI::App app{"orx: profile outlines, booleans, regions and offsets of bulge polylines"};
     app.require_subcommand(1);
     // File names may start with '/' (Wine, MSYS shells); CLI11 would take them for options
@@ -181,4 +179,17 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "orx: internal error: %s\n", orxtool::printableLine(e.what()).c_str());
         return 1;
     }
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    // What the commands throw is caught inside; this catches what setting them up may throw.
+    try {
+        return runTool(argc, argv);
+    } catch (std::exception const& e) {
+        std::fprintf(stderr, "orx: internal error: %s\n", orxtool::printableLine(e.what()).c_str());
+    } catch (...) {
+        std::fprintf(stderr, "orx: internal error\n");
+    }
+    return 1;
 }

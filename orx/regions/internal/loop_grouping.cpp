@@ -22,6 +22,7 @@ using RegionList = COrxArrayTempl<Region>;
 
 std::vector<COrxVertex const*> segmentsOf(COrxVertexArray const& loop) {
     std::vector<COrxVertex const*> segments;
+    segments.reserve(static_cast<std::size_t>(loop.len()));
     for (int k = 0; k < loop.len(); ++k) {
         segments.push_back(&loop[k]);
     }

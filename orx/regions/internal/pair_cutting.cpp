@@ -194,8 +194,9 @@ bool PairCutter::cutSecond(int r, int q) {
             }
         }
     }
-    COrxPoint3d const s = w.startPoint();
-    COrxVertex const v = m_b.piece(q);
+    COrxPoint3d const& s = w.startPoint();
+    // A copy: cutting may move the pieces.
+    COrxVertex const v = m_b.piece(q);  // NOLINT(performance-unnecessary-copy-initialization)
     if (!v.isPoint(s) || s == v.startPoint() || s == v.endPoint()) {
         return false;
     }

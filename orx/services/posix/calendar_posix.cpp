@@ -1,9 +1,9 @@
 // Time conversions and locale texts on Linux: the C library, its time zone (TZ) and its
 // locale of the user's settings.
 #include <langinfo.h>
-#include <locale.h>
-#include <time.h>
-#include <wchar.h>
+#include <clocale>
+#include <ctime>
+#include <cwchar>
 
 #include <string>
 

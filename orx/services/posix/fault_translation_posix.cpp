@@ -2,7 +2,7 @@
 // call the faulting thread's translator with the matching Windows code. Throwing from the
 // handler unwinds through the signal frame into the faulting function, which works because
 // the library and its callers are built with -fnon-call-exceptions.
-#include <signal.h>
+#include <csignal>
 
 #include <atomic>
 

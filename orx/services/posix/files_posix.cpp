@@ -1,5 +1,5 @@
 // The file-system calls of the services on Linux: POSIX calls on UTF-8 paths.
-#include <errno.h>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -53,7 +53,7 @@ std::string homeFolder() {
 }
 
 std::string userConfigFolder() {
-    std::string const configHome = environment("XDG_CONFIG_HOME");
+    std::string configHome = environment("XDG_CONFIG_HOME");
     if (isAbsolute(configHome)) {
         return configHome;
     }
@@ -70,7 +70,7 @@ std::string systemConfigFolder() {
         if (end == std::string::npos) {
             end = list.size();
         }
-        std::string const entry = list.substr(start, end - start);
+        std::string entry = list.substr(start, end - start);
         if (isAbsolute(entry)) {
             return entry;
         }
