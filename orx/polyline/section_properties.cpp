@@ -19,11 +19,7 @@ bool g_vl_statics(COrxVertexArray const& vl, double& area, COrxPoint3d& centroid
                              c)) {
         return false;
     }
-    area = c.area;
-    centroid.set(origin.x + c.cx, origin.y + c.cy, origin.z);
-    ix = c.ix;
-    iy = c.iy;
-    ixy = c.ixy;
+    internal::writeStatics(c, origin, area, centroid, ix, iy, ixy);
     return true;
 }
 

@@ -7,6 +7,7 @@
 
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/geom/functions.h"
+#include "orx/polyline/shared/finite_polyline.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
 
@@ -19,17 +20,6 @@ double distanceFor(COrxArrayTempl<double> const& distances, int k) {
 
 bool turnedOver(COrxVertex const& v, COrxVector3d const& before) {
     return ORX::sprod(v.endPoint() - v.startPoint(), before) < 0.0;
-}
-
-// Every coordinate and bulge is a finite number.
-bool allFinite(COrxVertexArray const& vl) {
-    for (int k = 0; k < vl.len(); ++k) {
-        COrxVertex const& v = vl[k];
-        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
-            return false;
-        }
-    }
-    return true;
 }
 
 }  // namespace
@@ -47,7 +37,7 @@ COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances
     if (isEmpty() || distances.isEmpty()) {
         return *this;
     }
-    if (!allFinite(*this)) {
+    if (!ORX::internal::allFinite(*this)) {
         setLogicalLength(0);  // nothing to offset: the failure value
         return *this;
     }
@@ -76,7 +66,7 @@ COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances
         }
     }
     closeGaps(closed, bridgeGaps);
-    if (!allFinite(*this)) {
+    if (!ORX::internal::allFinite(*this)) {
         setLogicalLength(0);  // the offset overflowed
     }
     return *this;

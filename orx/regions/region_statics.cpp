@@ -30,11 +30,7 @@ bool regionStatics(COrxArrayTempl<Polyline> const& region, double& area, COrxPoi
     if (!internal::toCentral(total, COrxPoint3d::tol * COrxPoint3d::tol, c)) {
         return false;
     }
-    area = c.area;
-    centroid.set(origin.x + c.cx, origin.y + c.cy, origin.z);
-    ix = c.ix;
-    iy = c.iy;
-    ixy = c.ixy;
+    internal::writeStatics(c, origin, area, centroid, ix, iy, ixy);
     return true;
 }
 

@@ -49,5 +49,14 @@ bool toCentral(AreaMoments const& m, double minArea, CentralMoments& out) {
     return true;
 }
 
+void writeStatics(CentralMoments const& c, COrxPoint3d const& origin, double& area,
+                  COrxPoint3d& centroid, double& ix, double& iy, double& ixy) {
+    area = c.area;
+    centroid.set(origin.x + c.cx, origin.y + c.cy, origin.z);
+    ix = c.ix;
+    iy = c.iy;
+    ixy = c.ixy;
+}
+
 }  // namespace internal
 }  // namespace ORX

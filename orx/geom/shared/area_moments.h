@@ -6,6 +6,8 @@
 #ifndef ORX_GEOM_SHARED_AREA_MOMENTS_H
 #define ORX_GEOM_SHARED_AREA_MOMENTS_H
 
+#include "orx/geom/point.h"
+
 namespace ORX {
 namespace internal {
 
@@ -37,6 +39,11 @@ struct CentralMoments {
 // every integral with the opposite sign; the properties are made those of the area itself.
 // False, out untouched, when the area is not above minArea or a value is not finite.
 bool toCentral(AreaMoments const& m, double minArea, CentralMoments& out);
+
+// The outputs of the statics functions from moments taken about `origin`: the area, the
+// centroid in the drawing (at the origin's height) and the central second moments.
+void writeStatics(CentralMoments const& c, COrxPoint3d const& origin, double& area,
+                  COrxPoint3d& centroid, double& ix, double& iy, double& ixy);
 
 }  // namespace internal
 }  // namespace ORX

@@ -1,9 +1,7 @@
 #include "orx/regions/internal/indexed_polyline.h"
 
-#include <cstdlib>
-
 #include "orx/geom/functions.h"
-#include "orx/regions/bool_operation.h"
+#include "orx/regions/internal/ray_test.h"
 
 namespace ORX {
 namespace internal {
@@ -45,18 +43,8 @@ bool IndexedPolyline::inside(COrxPoint3d p, bool onBoundary) const {
         return false;
     }
     p.z = m_polyline[0].startPoint().z;
-    double direction = angle(m_polyline[0].mid(), p);
-    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
-        int const parity = rayParity(p, direction);
-        if (parity == 2) {
-            return onBoundary;
-        }
-        if (parity >= 0) {
-            return parity == 1;
-        }
-        direction = std::rand() * kRandomDirectionScale;
-    }
-    return false;
+    return insideByRays(angle(m_polyline[0].mid(), p), onBoundary,
+                        [&](double direction) { return rayParity(p, direction); });
 }
 
 }  // namespace internal

@@ -7,9 +7,9 @@
 
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/foundation/shared/index_range.h"
+#include "orx/polyline/polyline_functions.h"
 #include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/shared/segment_grid.h"
-#include "orx/polyline/polyline_functions.h"
 #include "orx/regions/internal/strip_index.h"
 
 namespace ORX {

@@ -236,8 +236,7 @@ void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
         if (k < pieces.len() && pieces[k].startPoint() == pieces[k - 1].endPoint()) {
             continue;
         }
-        if (begin == 0 && k == pieces.len() &&
-            pieces[k - 1].endPoint() == pieces[0].startPoint()) {
+        if (begin == 0 && k == pieces.len() && pieces[k - 1].endPoint() == pieces[0].startPoint()) {
             takeIfClosed(pieces, take);  // all pieces form one loop: no copy
             return;
         }
@@ -265,16 +264,6 @@ Loops closedLoops(COrxVertexArray pieces) {
 
 void appendClosedLoops(COrxVertexArray pieces, COrxVertexArray& out) {
     forEachClosedLoop(pieces, [&out](COrxVertexArray const& loop) { out += loop; });
-}
-
-bool allFinite(COrxVertexArray const& vl) {
-    for (int k = 0; k < vl.len(); ++k) {
-        COrxVertex const& v = vl[k];
-        if (!v.startPoint().isValid() || !v.endPoint().isValid() || !std::isfinite(v.bulge())) {
-            return false;
-        }
-    }
-    return true;
 }
 
 bool allFinite(Loops const& loops) {

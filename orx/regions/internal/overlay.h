@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "orx/foundation/array_templ.h"
+#include "orx/polyline/shared/finite_polyline.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {
@@ -48,8 +49,8 @@ Loops closedLoops(COrxVertexArray pieces);
 // The same loops appended one after another to `out`.
 void appendClosedLoops(COrxVertexArray pieces, COrxVertexArray& out);
 
-// The operands' own check: every coordinate and bulge is finite.
-bool allFinite(COrxVertexArray const& vl);
+// The operands' own check: every coordinate and bulge of every loop is finite (the one of a
+// single polyline is in finite_polyline.h).
 bool allFinite(Loops const& loops);
 
 }  // namespace internal

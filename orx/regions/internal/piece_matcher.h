@@ -12,8 +12,8 @@
 
 #include <vector>
 
-#include "orx/polyline/vertex.h"
 #include "orx/geom/shared/point_cells.h"
+#include "orx/polyline/vertex.h"
 
 namespace ORX {
 namespace internal {

@@ -101,18 +101,8 @@ bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
         return false;
     }
     p.z = vl[0].startPoint().z;
-    double direction = angle(vl[0].mid(), p);
-    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
-        int const parity = rayParity(vl, p, direction);
-        if (parity == 2) {
-            return onBoundary;
-        }
-        if (parity >= 0) {
-            return parity == 1;
-        }
-        direction = std::rand() * kRandomDirectionScale;
-    }
-    return false;
+    return insideByRays(angle(vl[0].mid(), p), onBoundary,
+                        [&](double direction) { return rayParity(vl, p, direction); });
 }
 
 }  // namespace internal

@@ -7,10 +7,31 @@
 #ifndef ORX_REGIONS_INTERNAL_RAY_TEST_H
 #define ORX_REGIONS_INTERNAL_RAY_TEST_H
 
+#include <cstdlib>
+
 #include "orx/polyline/vertex_array.h"
+#include "orx/regions/bool_operation.h"
 
 namespace ORX {
 namespace internal {
+
+// The answer of rays from p: parity(direction) gives 1 inside, 0 outside, 2 for p on the
+// boundary and -1 when the ray grazes a vertex or runs along a segment; then a new direction
+// is drawn with rand(), up to kMaxRayRestarts times (false after that).
+template <class Parity>
+bool insideByRays(double direction, bool onBoundary, Parity parity) {
+    for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
+        int const found = parity(direction);
+        if (found == 2) {
+            return onBoundary;
+        }
+        if (found >= 0) {
+            return found == 1;
+        }
+        direction = std::rand() * kRandomDirectionScale;
+    }
+    return false;
+}
 
 bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary);
 

@@ -46,7 +46,7 @@ private:
     void visitStrip(int strip, Visit visit) const;
 
     std::vector<COrxVertex const*> m_segments;
-    bool m_plain = false;  // no strips: every question is a pass over all segments
+    bool m_plain = false;             // no strips: every question is a pass over all segments
     std::vector<SegmentBox> m_boxes;  // widened by the pruning margin
     double m_y0 = 0.0, m_height = 1.0;
     int m_strips = 0;
