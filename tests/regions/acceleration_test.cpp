@@ -7,7 +7,8 @@
 #include <cstdlib>
 
 #include "reference_overlay.h"
-#include "shapes.h"
+#include "shape_maker.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

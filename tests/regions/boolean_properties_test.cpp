@@ -7,7 +7,9 @@
 #include <cmath>
 
 #include "orx/geom/tolerance.h"
-#include "shapes.h"
+#include "region_measures.h"
+#include "shape_maker.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

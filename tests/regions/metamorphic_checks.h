@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "shapes.h"
+#include "orx/regions/regions.h"
+#include "tests/support/shapes.h"
 
 namespace orx_test {
 

@@ -13,6 +13,7 @@
 
 #include "metamorphic_cases.h"
 #include "metamorphic_checks.h"
+#include "region_measures.h"
 
 using namespace orx_test;
 
