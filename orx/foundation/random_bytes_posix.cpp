@@ -2,7 +2,7 @@
 #include <errno.h>
 #include <sys/random.h>
 
-#include "orx/foundation/internal/random_bytes.h"
+#include "orx/foundation/shared/random_bytes.h"
 
 namespace ORX {
 namespace internal {

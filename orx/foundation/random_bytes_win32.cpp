@@ -5,7 +5,7 @@
 
 #include <climits>
 
-#include "orx/foundation/internal/random_bytes.h"
+#include "orx/foundation/shared/random_bytes.h"
 
 namespace ORX {
 namespace internal {

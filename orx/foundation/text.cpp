@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "orx/foundation/internal/number_scan.h"
+#include "orx/foundation/shared/index_range.h"
 
 namespace ORX {
 
@@ -72,9 +73,9 @@ COrxString implode(COrxArrayTempl<COrxString> const& list, wchar_t const* sep) {
         return COrxString::kNull;
     }
     COrxString joined(list[0]);
-    for (unsigned long k = 1; k < list.len(); ++k) {
+    for (int k : ORX::internal::indicesFrom(1, list)) {
         joined += sep;
-        joined += list[static_cast<int>(k)];
+        joined += list[k];
     }
     return joined;
 }

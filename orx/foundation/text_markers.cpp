@@ -1,3 +1,4 @@
+#include "orx/foundation/shared/index_range.h"
 #include "orx/foundation/text_markers.h"
 
 #include <string>
@@ -57,13 +58,13 @@ unsigned long removeMarkers(COrxString& text, Keep keep) {
 int longestMatch(std::wstring_view text, COrxArrayTempl<COrxString> const& from) {
     int best = -1;
     std::size_t bestLength = 0;
-    for (unsigned long k = 0; k < from.len(); ++k) {
+    for (int k : ORX::internal::indices(from)) {
         std::wstring_view const candidate(
-            from[static_cast<int>(k)].isNull()
+            from[k].isNull()
                 ? L""
-                : static_cast<wchar_t const*>(from[static_cast<int>(k)]));
+                : static_cast<wchar_t const*>(from[k]));
         if (candidate.size() > bestLength && text.substr(0, candidate.size()) == candidate) {
-            best = static_cast<int>(k);
+            best = k;
             bestLength = candidate.size();
         }
     }

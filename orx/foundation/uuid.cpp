@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "orx/foundation/internal/random_bytes.h"
+#include "orx/foundation/shared/random_bytes.h"
 
 namespace ORX {
 

@@ -1,3 +1,4 @@
+#include "orx/foundation/shared/index_range.h"
 #include "orx/geom/map_double_to_point.h"
 
 #include <climits>
@@ -142,7 +143,7 @@ bool CMapDoubleToPoint::sort() {
     }
     distinct.sort();
     CMapDoubleToPoint sorted;
-    for (unsigned long d = 0; d < distinct.len(); ++d) {
+    for (int d : ORX::internal::indices(distinct)) {
         double const value = distinct.entry()[d];
         for (int k = 0; k < count; ++k) {
             if (params[k] == value) {

@@ -4,7 +4,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
-#include "orx/plane_geometry/lines.h"
+#include "orx/geom/shared/line_intersection.h"
 
 COrxPlane::COrxPlane() : m_origin(0.0, 0.0, 0.0), m_normal(COrxVector3d::kZAxis) {}
 
@@ -89,7 +89,7 @@ bool COrxPlane::intersectWith(COrxPlane const& other, COrxPoint3d& p, COrxVector
     COrxPoint3d const b1 = other.m_origin * toLine;
     COrxPoint3d const b2 = (other.m_origin + w * direction) * toLine;
     COrxPoint3d meeting;
-    if (!ORX::inters(a1, a2, b1, b2, false, meeting)) {
+    if (!ORX::internal::intersectLines(a1, a2, b1, b2, false, meeting)) {
         return false;
     }
     COrxPoint3d const onBoth = meeting * toLine.inverse();

@@ -3,10 +3,10 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/geom/internal/area_moments.h"
+#include "orx/geom/shared/angle_range.h"
+#include "orx/geom/shared/area_moments.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/tolerance.h"
-#include "orx/plane_geometry/angles.h"
 
 namespace ORX {
 
@@ -102,7 +102,7 @@ bool g_pl_sort_arcw(CMapDoubleToPoint& out, COrxPoint3dArray const& pl, COrxPoin
     }
     CMapDoubleToPoint pairs;
     for (int k = 0; k < pl.len(); ++k) {
-        pairs.append(g_ang(angle(centre, pl[k]) - startAngle), pl[k]);
+        pairs.append(internal::angleInTurn(angle(centre, pl[k]) - startAngle), pl[k]);
     }
     pairs.sort();
     out = pairs;

@@ -3,16 +3,12 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/angle_range.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 
 namespace {
-
-// Keeps the normalising loops short: a huge angle is first reduced by an exact remainder.
-double shortenForLoop(double w, double period) {
-    return std::fabs(w) > kMaxLoopAngle ? std::fmod(w, period) : w;
-}
 
 bool near(double y, double target) {
     return std::fabs(y - target) < kAxisSnapTol;
@@ -30,27 +26,14 @@ bool legAngle(COrxPoint3d const& from, COrxPoint3d const& to, double& w) {
 }  // namespace
 
 double g_ang(double w) {
-    if (!std::isfinite(w)) {
-        return nan();
-    }
-    w = shortenForLoop(w, kTwoPi);
-    if (std::fabs(w - kTwoPi) < kTwoPiSnap) {
-        return 0.0;
-    }
-    while (w >= kTwoPi) {
-        w -= kTwoPi;
-    }
-    while (w < 0.0) {
-        w += kTwoPi;
-    }
-    return w;
+    return internal::angleInTurn(w);
 }
 
 double g_signed_ang(double w) {
     if (!std::isfinite(w)) {
         return nan();
     }
-    w = shortenForLoop(w, kTwoPi);
+    w = internal::shortenForLoop(w, kTwoPi);
     while (w > kPi) {
         w -= kTwoPi;
     }
@@ -64,7 +47,7 @@ double g_dir_nrm(double w) {
     if (!std::isfinite(w)) {
         return nan();
     }
-    w = shortenForLoop(w, kPi);
+    w = internal::shortenForLoop(w, kPi);
     while (w >= kPi) {
         w -= kPi;
     }

@@ -10,17 +10,13 @@
 
 #include "orx/foundation/platform.h"
 #include "orx/geom/point.h"
+#include "orx/geom/shared/angle_range.h"  // kTwoPiSnap, kMaxLoopAngle
 #include "orx/geom/vector.h"
 
 namespace ORX {
 
-// g_ang returns 0 for a value this close to 2pi.
-constexpr double kTwoPiSnap = 1e-8;
 // Angular tolerance of the axis snapping and of the octant and sixteenth classes (radians).
 constexpr double kAxisSnapTol = 0.001;
-// Larger angles are reduced by a remainder before the normalising loops, which would
-// otherwise take too long (or forever, once 2pi is below the value's precision).
-constexpr double kMaxLoopAngle = 1.0e5;
 
 // w in [0, 2pi): a value within kTwoPiSnap of 2pi gives exactly 0; otherwise 2pi is
 // subtracted while w >= 2pi and added while w < 0 (repeated subtraction, not a remainder:

@@ -3,12 +3,12 @@
 
 #include <initializer_list>
 #include <utility>
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 #include "orx/plane_geometry/bulge_segment.h"
 #include "orx/plane_geometry/bulges.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
-#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/plane_geometry/shared/curve.h"
 #include "orx/plane_geometry/intersections.h"
 #include "orx/plane_geometry/lines.h"
 

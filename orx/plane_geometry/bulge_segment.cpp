@@ -4,9 +4,10 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/bulges.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 #include "orx/plane_geometry/internal/exact_sign.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 
@@ -95,7 +96,7 @@ double g_bulg_area(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge) {
     }
     // r = chord / (2 sin(theta/2)): r^2 / 2 (theta - sin theta) without forming r.
     double const dx = p2.x - p1.x, dy = p2.y - p1.y;
-    double const theta = 4 * std::atan(bulge);
+    double const theta = internal::bulgeSweep(bulge);
     double const half = std::sin(theta / 2);
     double const area = (dx * dx + dy * dy) / (8 * half * half) * thetaMinusSine(theta);
     return std::isfinite(area) ? area : nan();

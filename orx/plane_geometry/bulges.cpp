@@ -4,8 +4,8 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/internal/three_points.h"
 #include "orx/plane_geometry/lines.h"
 #include "orx/plane_geometry/points.h"

@@ -4,7 +4,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/angles.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 

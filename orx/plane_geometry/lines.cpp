@@ -1,26 +1,12 @@
 #include "orx/plane_geometry/lines.h"
 
-#include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "orx/geom/functions.h"
-#include "orx/geom/vector.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/line_intersection.h"
 
 namespace ORX {
 
 namespace {
-
-// The widened bounding boxes of the segments a-b and c-d are apart in x or in y.
-bool boxesApart(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& c,
-                COrxPoint3d const& d, double t) {
-    bool const apartX = std::max(a.x, b.x) + t < std::min(c.x, d.x) - t ||
-                        std::max(c.x, d.x) + t < std::min(a.x, b.x) - t;
-    bool const apartY = std::max(a.y, b.y) + t < std::min(c.y, d.y) - t ||
-                        std::max(c.y, d.y) + t < std::min(a.y, b.y) - t;
-    return apartX || apartY;
-}
 
 // The point of pts whose distance from p is best by `better`, NaN distances ignored; -1 when
 // there is none.
@@ -41,78 +27,16 @@ int bestByDistance(COrxPoint3d const& p, COrxPoint3dArray const& pts, Better bet
 }  // namespace
 
 COrxPoint3d g_lotp(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
-    if (b == a) {
-        return a;
-    }
-    COrxVector3d const u = (b - a).normalize();
-    return a + u * sprod(p - a, u);
+    return internal::lineFoot(a, b, p);
 }
 
 bool g_line_pt(COrxPoint3d const& a, COrxPoint3d const& b, COrxPoint3d const& p) {
-    if (!internal::allValid(a, b, p)) {
-        return false;
-    }
-    if (p == a || p == b) {
-        return true;
-    }
-    if (a == b) {
-        return false;
-    }
-    COrxPoint3d const f = g_lotp(a, b, p);
-    if (p.distanceTo(f) > COrxPoint3d::tol) {
-        return false;
-    }
-    // The foot lies between the ends: f - a and b - f point the same way. Decided by the
-    // foot's share of b - a rather than by comparing the two unit vectors, whose directions
-    // a foot next to an end leaves with only the digits that the coordinates' size spares.
-    COrxVector3d const along = b - a;
-    double const share = sprod(p - a, along) / sprod(along, along);
-    return share >= 0.0 && share <= 1.0;
+    return internal::pointOnSegment(a, b, p);
 }
 
 bool inters(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p3,
             COrxPoint3d const& p4, bool bounded, COrxPoint3d& out) {
-    if (!internal::allValid(p1, p2, p3, p4)) {
-        return false;
-    }
-    double const t = COrxPoint3d::tol;
-    if (bounded && boxesApart(p1, p2, p3, p4, t)) {
-        return false;
-    }
-    COrxPoint3d const* first[2] = {&p1, &p2};
-    COrxPoint3d const* second[2] = {&p3, &p4};
-    if (std::fabs(p2.x - p1.x) < t) {
-        if (std::fabs(p4.x - p3.x) < t || std::fabs(p2.y - p1.y) < t) {
-            return false;
-        }
-        std::swap(first[0], second[0]);
-        std::swap(first[1], second[1]);
-    }
-    COrxPoint3d const& a = *first[0];
-    COrxPoint3d const& b = *first[1];
-    COrxPoint3d const& c = *second[0];
-    COrxPoint3d const& d = *second[1];
-    // The slopes decide the vertical and parallel cases; the point itself is computed from
-    // the first line's start, so that it does not depend on where the lines lie.
-    double const m1 = (b.y - a.y) / (b.x - a.x);
-    double const dx2 = d.x - c.x;
-    double along = 0.0;  // of the point on the first line, as a share of b - a
-    if (std::fabs(dx2) < kVerticalDx) {
-        along = (d.x - a.x) / (b.x - a.x);
-    } else {
-        double const m2 = (d.y - c.y) / dx2;
-        if (std::fabs(m1 - m2) < kParallelSlope) {
-            return false;
-        }
-        double const ex = b.x - a.x, ey = b.y - a.y, fx = d.x - c.x, fy = d.y - c.y;
-        along = ((c.x - a.x) * fy - (c.y - a.y) * fx) / (ex * fy - ey * fx);
-    }
-    COrxPoint3d const hit(a.x + along * (b.x - a.x), a.y + along * (b.y - a.y), a.z);
-    if (!hit.isValid() || (bounded && !(g_line_pt(p1, p2, hit) && g_line_pt(p3, p4, hit)))) {
-        return false;
-    }
-    out = hit;
-    return true;
+    return internal::intersectLines(p1, p2, p3, p4, bounded, out);
 }
 
 COrxPoint3d g_near_p1(COrxPoint3d const& p, COrxPoint3dArray const& pts) {

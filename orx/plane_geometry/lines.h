@@ -6,13 +6,9 @@
 #include "orx/foundation/platform.h"
 #include "orx/geom/point.h"
 #include "orx/geom/point_array.h"
+#include "orx/geom/shared/line_intersection.h"  // kVerticalDx, kParallelSlope
 
 namespace ORX {
-
-// inters treats the second line as vertical when its x extent is below this.
-constexpr double kVerticalDx = 1e-9;
-// inters treats two lines as parallel when their slopes differ by less than this.
-constexpr double kParallelSlope = 1e-9;
 
 // Perpendicular foot of p on the infinite line through a and b: a when b equals a (point
 // tolerance), else a + u ((p - a) . u) with u = unit(b - a).

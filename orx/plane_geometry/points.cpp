@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
+#include "orx/geom/shared/midpoint.h"
 
 #include "orx/geom/functions.h"
 #include "orx/geom/vector.h"
@@ -14,7 +15,7 @@ double g_dist2d(COrxPoint3d const& p, COrxPoint3d const& q) {
 }
 
 COrxPoint3d g_midp3d(COrxPoint3d const& p, COrxPoint3d const& q) {
-    return COrxPoint3d((p.x + q.x) / 2, (p.y + q.y) / 2, (p.z + q.z) / 2);
+    return internal::midpoint(p, q);
 }
 
 COrxPoint3d g_nrm_p(COrxPoint3d const& p) {

@@ -7,6 +7,7 @@
 #include "orx/geom/matrix.h"
 #include "orx/geom/point_list_functions.h"
 #include "orx/plane_geometry/bulge_segment.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 #include "orx/polyline/vertex_functions.h"
 
 namespace ORX {
@@ -20,6 +21,9 @@ constexpr double kOrientChordTol = 0.01;
 int innerPointCount(COrxVertex const& v, int n, double theta) {
     if (n < 1) {
         return g_bulg_split(v);
+    }
+    if (std::isnan(theta)) {
+        return 1;  // a NaN bulge: one point (of NaN) carries it into the result
     }
     double const pieces = std::fabs(std::trunc(n * theta / kPi));
     if (!(pieces < kMaxArcPieces)) {
@@ -45,7 +49,7 @@ COrxVertexArray g_vl_expl(COrxVertexArray const& vl, int n) {
         COrxPoint3d const c = v.center();
         double const r = v.radius();
         double const a = angle(c, v.startPoint());
-        double const theta = 4.0 * std::atan(v.bulge());
+        double const theta = internal::bulgeSweep(v.bulge());
         int const inner = innerPointCount(v, n, theta);
         for (int j = 1; j <= inner; ++j) {
             points.append(polar(c, a + theta * j / (inner + 1), r));

@@ -1,5 +1,6 @@
 #include "orx/polyline/vertex_array_ex.h"
 
+#include "orx/foundation/shared/index_range.h"
 #include "orx/polyline/internal/orient_list.h"
 #include "orx/polyline/polyline_functions.h"
 
@@ -65,8 +66,8 @@ COrxArrayTempl<COrxVertexArrayEx> orx_g_xvll(COrxArrayTempl<COrxVertexArray> con
                                              int attribute, wchar_t const* text,
                                              COrxVector3d const& normal) {
     COrxArrayTempl<COrxVertexArrayEx> extended;
-    for (unsigned long k = 0; k < list.len(); ++k) {
-        extended.append(orx_g_xvl(list[static_cast<int>(k)], attribute, text, normal));
+    for (int k : ORX::internal::indices(list)) {
+        extended.append(orx_g_xvl(list[k], attribute, text, normal));
     }
     return extended;
 }

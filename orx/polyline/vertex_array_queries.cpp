@@ -5,8 +5,9 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
 
@@ -151,7 +152,7 @@ COrxPoint3dArray COrxVertexArray::pts(bool tessellate, double tol) const {
         COrxPoint3d const c = v.center();
         double const r = v.radius();
         double const a0 = ORX::angle(c, v.startPoint());
-        double const theta = 4.0 * std::atan(v.bulge());
+        double const theta = ORX::internal::bulgeSweep(v.bulge());
         for (int piece = 1; piece <= n; ++piece) {
             points.append(ORX::polar(c, a0 + piece * theta / (n + 1), r));
         }

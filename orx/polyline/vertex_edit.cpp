@@ -6,6 +6,7 @@
 #include "orx/geom/matrix_functions.h"
 #include "orx/geom/plane.h"
 #include "orx/plane_geometry/plane_geometry.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 #include "orx/polyline/vertex.h"
 
 namespace {
@@ -33,7 +34,7 @@ COrxVertex COrxVertex::reverse() const {
 COrxVertex& COrxVertex::complement() {
     revert();
     if (!isStraight()) {
-        m_bulge = std::tan((4.0 * std::atan(m_bulge) - ORX::kTwoPi) / 4.0);
+        m_bulge = std::tan((ORX::internal::bulgeSweep(m_bulge) - ORX::kTwoPi) / 4.0);
     }
     return *this;
 }

@@ -4,6 +4,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 
 namespace ORX {
 
@@ -20,11 +21,11 @@ int truncatedCount(double quotient) {
 }  // namespace
 
 double vx_start_angle(COrxVertex const& v) {
-    return g_ang(angle(v.startPoint(), v.endPoint()) - 4.0 * std::atan(v.bulge()) * 0.5);
+    return g_ang(angle(v.startPoint(), v.endPoint()) - internal::bulgeSweep(v.bulge()) * 0.5);
 }
 
 double vx_end_angle(COrxVertex const& v) {
-    return g_ang(angle(v.endPoint(), v.startPoint()) + 4.0 * std::atan(v.bulge()) * 0.5);
+    return g_ang(angle(v.endPoint(), v.startPoint()) + internal::bulgeSweep(v.bulge()) * 0.5);
 }
 
 COrxVector3d vx_start_dir(COrxVertex const& v) {
@@ -39,7 +40,7 @@ int g_vx_split_n(COrxVertex const& v, double tol) {
     if (v.isStraight()) {
         return 0;
     }
-    double const theta = std::fabs(4.0 * std::atan(v.bulge()));
+    double const theta = std::fabs(internal::bulgeSweep(v.bulge()));
     double const r = v.radius();
     int const quarters = truncatedCount(theta / kHalfPi);
     double const step = std::acos((r - tol) / r);

@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/plane_geometry/plane_geometry.h"
 #include "orx/polyline/vertex.h"
 
@@ -111,16 +111,5 @@ bool COrxVertex::farFrom(COrxPoint3d const& p) const {
 
 bool COrxVertex::onCircleOf(COrxVertex const& other) const {
     ORX::internal::ArcFrame const frame(other.m_start, other.m_end, other.m_bulge);
-    if (!frame.valid()) {
-        return false;
-    }
-    double const within = COrxPoint3d::tol / frame.halfChord();  // in half chords
-    auto near = [&frame, within](double x, double y) {
-        return std::fabs(frame.circleDistance(frame.toFrame(x, y))) <= within;
-    };
-    // The midpoint (as mid() gives it) last: most pairs are told apart by an end.
-    double const dx = m_end.x - m_start.x, dy = m_end.y - m_start.y;
-    double const mx = (m_start.x + m_end.x) / 2 + dy * (m_bulge / 2);
-    double const my = (m_start.y + m_end.y) / 2 - dx * (m_bulge / 2);
-    return near(m_start.x, m_start.y) && near(m_end.x, m_end.y) && near(mx, my);
+    return frame.valid() && frame.holdsArc(m_start, m_end, m_bulge);
 }

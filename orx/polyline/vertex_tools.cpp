@@ -6,6 +6,7 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/plane_geometry.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 #include "orx/polyline/vertex_functions.h"
 
 bool orx_g_vx_vx(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxVertex& v, bool keepBulge) {
@@ -157,7 +158,7 @@ double g_vx_split_dif(COrxVertex const& v, int n) {
     if (v.isStraight()) {
         return 0.0;
     }
-    double const theta = std::fabs(4.0 * std::atan(v.bulge()));
+    double const theta = std::fabs(ORX::internal::bulgeSweep(v.bulge()));
     return v.radius() * (1.0 - std::cos(theta / (2.0 * n)));
 }
 

@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/lines.h"
 #include "orx/profiles/internal/helix_geometry.h"
 

@@ -1,6 +1,7 @@
 // COrxMesh: faces as index lists over one de-duplicated list of points.
 #include <algorithm>
 
+#include "orx/foundation/shared/index_range.h"
 #include "orx/profiles/mesh.h"
 
 namespace {
@@ -58,9 +59,9 @@ int COrxMesh::store(COrxPoint3d const& p) {
 void COrxMesh::truncate(int n) {
     m_points.setLogicalLength(n);
     COrxArrayTempl<int> kept;
-    for (unsigned long k = 0; k < m_byX.len(); ++k) {
-        if (m_byX[static_cast<int>(k)] < n) {
-            kept.append(m_byX[static_cast<int>(k)]);
+    for (int k : ORX::internal::indices(m_byX)) {
+        if (m_byX[k] < n) {
+            kept.append(m_byX[k]);
         }
     }
     m_byX = kept;
@@ -116,8 +117,8 @@ COrxVertexArray COrxMesh::operator[](int i) const {
     }
     COrxArrayTempl<short> const& face = m_faces[i];
     COrxPoint3dArray corners;
-    for (unsigned long k = 0; k < face.len(); ++k) {
-        corners.append(m_points[face[static_cast<int>(k)]]);
+    for (int k : ORX::internal::indices(face)) {
+        corners.append(m_points[face[k]]);
     }
     return outline.fromPoints(corners, true);
 }

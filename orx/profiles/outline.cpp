@@ -4,7 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
-#include "orx/polyline/internal/loop_moments.h"
+#include "orx/foundation/shared/index_range.h"
+#include "orx/polyline/shared/loop_moments.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/profiles/internal/outline_generators.h"
 
@@ -63,8 +64,8 @@ bool finiteInput(COrxVector3d const& offset, internal::Dims const& dims) {
     if (!offset.isValid()) {
         return false;
     }
-    for (unsigned long i = 0; i < dims.len(); ++i) {
-        if (!std::isfinite(dims[static_cast<int>(i)])) {
+    for (int i : ORX::internal::indices(dims)) {
+        if (!std::isfinite(dims[i])) {
             return false;
         }
     }

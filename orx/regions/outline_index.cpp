@@ -3,14 +3,15 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
+#include "orx/foundation/shared/index_range.h"
 #include "orx/regions/internal/strip_index.h"
 
 namespace {
 
 std::vector<COrxVertex const*> segmentsOf(COrxArrayTempl<COrxVertexArray> const& loops) {
     std::vector<COrxVertex const*> segments;
-    for (unsigned long l = 0; l < loops.len(); ++l) {
-        COrxVertexArray const& loop = loops[static_cast<int>(l)];
+    for (int l : ORX::internal::indices(loops)) {
+        COrxVertexArray const& loop = loops[l];
         for (int k = 0; k < loop.len(); ++k) {
             segments.push_back(&loop[k]);
         }

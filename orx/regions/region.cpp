@@ -10,16 +10,16 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
+#include "orx/foundation/shared/index_range.h"
 #include "orx/geom/tolerance.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/indexed_polyline.h"
 #include "orx/regions/internal/loop_grouping.h"
 #include "orx/regions/internal/overlay.h"
 #include "orx/regions/internal/ray_test.h"
-#include "orx/regions/internal/winding_index.h"
 
 namespace ORX {
 
@@ -110,8 +110,8 @@ int g_vll_pt_inside(Region const& region, COrxPoint3d const& p) {
     if (!internal::rayInside(outer, p, false)) {
         return internal::rayInside(outer, p, true) ? 0 : -1;
     }
-    for (unsigned long h = 1; h < region.len(); ++h) {
-        COrxVertexArray const& hole = region[static_cast<int>(h)];
+    for (int h : ORX::internal::indicesFrom(1, region)) {
+        COrxVertexArray const& hole = region[h];
         if (internal::rayInside(hole, p, false)) {
             return -1;
         }
@@ -139,15 +139,15 @@ bool reglDiff(RegionList const& from, RegionList const& sub, RegionList& out) {
         return false;
     }
     putFirst(out, from[0]);
-    for (unsigned long s = 0; s < sub.len(); ++s) {
+    for (int s : ORX::internal::indices(sub)) {
         // The index loop re-reads the length: regions a difference splits off are visited by
         // the same pass.
-        for (unsigned long o = 0; o < out.len(); ++o) {
+        for (int o = 0; o < static_cast<int>(out.len()); ++o) {
             RegionList pieces;
-            if (g_region_diff(out[static_cast<int>(o)], sub[static_cast<int>(s)], pieces)) {
-                out[static_cast<int>(o)] = pieces.isEmpty() ? Region() : pieces[0];
-                for (unsigned long p = 1; p < pieces.len(); ++p) {
-                    out.append(pieces[static_cast<int>(p)]);
+            if (g_region_diff(out[o], sub[s], pieces)) {
+                out[o] = pieces.isEmpty() ? Region() : pieces[0];
+                for (int p : ORX::internal::indicesFrom(1, pieces)) {
+                    out.append(pieces[p]);
                 }
             }
         }

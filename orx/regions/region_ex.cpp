@@ -1,6 +1,7 @@
 // The extended forms of the boolean and region operations: the plain operations on the
 // polylines, results converted back with default attributes.
 #include "orx/regions/bool_operation.h"
+#include "orx/foundation/shared/index_range.h"
 #include "orx/regions/region.h"
 #include "orx/regions/region_building.h"
 #include "orx/regions/region_lists.h"
@@ -67,13 +68,13 @@ RegionListEx g_vll_regions(RegionEx const& loops, unsigned long flags) {
     // attributes back.
     RegionList const plain = g_vll_regions(orxVllExToVll(loops), flags);
     RegionListEx regions;
-    for (unsigned long r = 0; r < plain.len(); ++r) {
+    for (int r : ORX::internal::indices(plain)) {
         RegionEx region;
-        for (unsigned long k = 0; k < plain[static_cast<int>(r)].len(); ++k) {
-            COrxVertexArray const& loop = plain[static_cast<int>(r)][static_cast<int>(k)];
-            for (unsigned long l = 0; l < loops.len(); ++l) {
-                if (static_cast<COrxVertexArray const&>(loops[static_cast<int>(l)]) == loop) {
-                    region.append(loops[static_cast<int>(l)]);
+        for (int k : ORX::internal::indices(plain[r])) {
+            COrxVertexArray const& loop = plain[r][k];
+            for (int l : ORX::internal::indices(loops)) {
+                if (static_cast<COrxVertexArray const&>(loops[l]) == loop) {
+                    region.append(loops[l]);
                     break;
                 }
             }

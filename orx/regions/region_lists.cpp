@@ -1,3 +1,4 @@
+#include "orx/foundation/shared/index_range.h"
 #include "orx/regions/region_lists.h"
 
 namespace {
@@ -7,8 +8,8 @@ template <class To, class From>
 COrxArrayTempl<To> convertList(COrxArrayTempl<From> const& from) {
     COrxArrayTempl<To> to;
     to.setLogicalLength(from.len());
-    for (unsigned long k = 0; k < from.len(); ++k) {
-        to[static_cast<int>(k)] = To(from[static_cast<int>(k)]);
+    for (int k : ORX::internal::indices(from)) {
+        to[k] = To(from[k]);
     }
     return to;
 }
@@ -18,8 +19,8 @@ COrxArrayTempl<COrxArrayTempl<To>> convertRegions(
     COrxArrayTempl<COrxArrayTempl<From>> const& from) {
     COrxArrayTempl<COrxArrayTempl<To>> to;
     to.setLogicalLength(from.len());
-    for (unsigned long k = 0; k < from.len(); ++k) {
-        to[static_cast<int>(k)] = convertList<To>(from[static_cast<int>(k)]);
+    for (int k : ORX::internal::indices(from)) {
+        to[k] = convertList<To>(from[k]);
     }
     return to;
 }
@@ -50,8 +51,8 @@ COrxArrayTempl<COrxVertexArray> orx_g_gvll(COrxArrayTempl<COrxVertexArrayEx> con
 
 COrxArrayTempl<COrxVertexArray>& orx_g_vll_move(COrxArrayTempl<COrxVertexArray>& loops,
                                                 COrxVector3d const& v) {
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        loops[static_cast<int>(k)].move(v);
+    for (int k : ORX::internal::indices(loops)) {
+        loops[k].move(v);
     }
     return loops;
 }

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "orx/geom/internal/area_moments.h"
-#include "orx/polyline/internal/loop_moments.h"
+#include "orx/geom/shared/area_moments.h"
+#include "orx/polyline/shared/loop_moments.h"
 
 namespace ORX {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "orx/foundation/internal/random_bytes.h"
+#include "orx/foundation/shared/random_bytes.h"
 #include "orx/services/internal/file_system.h"
 #include "orx/services/internal/path_parts.h"
 #include "orx/services/internal/temp_name.h"

@@ -6,6 +6,7 @@
 #include <cwchar>
 #include <vector>
 
+#include "orx/foundation/shared/index_range.h"
 #include "orx/foundation/text.h"
 #include "orx/services/internal/registry_api.h"
 #include "orx/services/registry.h"
@@ -57,8 +58,8 @@ template <class Change>
 bool changeElements(COrxString& text, Change change) {
     COrxArrayTempl<COrxString> elements = explode(text, L";", true);
     bool changed = false;
-    for (unsigned long i = 0; i < elements.len(); ++i) {
-        changed = change(elements[static_cast<int>(i)]) || changed;
+    for (int i : ORX::internal::indices(elements)) {
+        changed = change(elements[i]) || changed;
     }
     text = implode(elements, L";");
     return changed;
@@ -150,8 +151,8 @@ bool regWrite(HKEY key, wchar_t const* name, COrxArrayTempl<COrxString> const& l
         return deleteValue(key, name);
     }
     std::vector<wchar_t> packed;
-    for (unsigned long i = 0; i < list.len(); ++i) {
-        COrxString const& element = list[static_cast<int>(i)];
+    for (int i : ORX::internal::indices(list)) {
+        COrxString const& element = list[i];
         wchar_t const* const text = element;
         packed.insert(packed.end(), text, text + element.len());
         packed.push_back(L'\0');

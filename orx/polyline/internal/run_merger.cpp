@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
 
 namespace ORX {
 namespace internal {
@@ -14,7 +15,7 @@ namespace internal {
 namespace {
 
 double angleOf(COrxVertex const& v) {
-    return 4 * std::atan(v.bulge());
+    return bulgeSweep(v.bulge());
 }
 
 // The window of directions from a straight run's start that pass within the tolerance of
@@ -108,18 +109,7 @@ bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
 // The arc's ends and midpoint lie within the tolerance of the circle of `frame` (as
 // COrxVertex::coLinear tests them, with the frame made once per arc).
 bool onCircle(COrxVertex const& arc, ArcFrame const& frame) {
-    if (!frame.valid()) {
-        return false;
-    }
-    double const within = COrxPoint3d::tol / frame.halfChord();
-    auto near = [&frame, within](double x, double y) {
-        return std::fabs(frame.circleDistance(frame.toFrame(x, y))) <= within;
-    };
-    COrxPoint3d const& s = arc.startPoint();
-    COrxPoint3d const& e = arc.endPoint();
-    double const b = arc.bulge();
-    return near(s.x, s.y) && near(e.x, e.y) &&
-           near((s.x + e.x) / 2 + (e.y - s.y) * (b / 2), (s.y + e.y) / 2 - (e.x - s.x) * (b / 2));
+    return frame.valid() && frame.holdsArc(arc.startPoint(), arc.endPoint(), arc.bulge());
 }
 
 // next continues the run of arcs that ends with `last` (whose frame is given) and began at

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "orx/foundation/array_templ.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {

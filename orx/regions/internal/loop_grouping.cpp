@@ -6,8 +6,9 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/foundation/shared/index_range.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/internal/strip_index.h"
 
@@ -87,10 +88,10 @@ private:
 RegionList groupBySense(Region const& loops, bool counterClockwise) {
     std::vector<int> outer, holes;
     std::vector<double> size(loops.len());
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        double const area = g_vl_area(loops[static_cast<int>(k)]);
+    for (int k : ORX::internal::indices(loops)) {
+        double const area = g_vl_area(loops[k]);
         size[k] = std::fabs(area);
-        ((area > 0.0) == counterClockwise ? outer : holes).push_back(static_cast<int>(k));
+        ((area > 0.0) == counterClockwise ? outer : holes).push_back(k);
     }
     RegionList regions;
     for (int o : outer) {

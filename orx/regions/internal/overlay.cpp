@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/foundation/shared/index_range.h"
+#include "orx/polyline/shared/segment_box.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/pair_cutting.h"
 #include "orx/regions/internal/piece_loop.h"
@@ -128,8 +129,8 @@ int testsOf(Operand const& operand) {
 
 LoopRefs refsOf(Loops const& loops) {
     LoopRefs refs;
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        refs.push_back(&loops[static_cast<int>(k)]);
+    for (int k : ORX::internal::indices(loops)) {
+        refs.push_back(&loops[k]);
     }
     return refs;
 }
@@ -277,8 +278,8 @@ bool allFinite(COrxVertexArray const& vl) {
 }
 
 bool allFinite(Loops const& loops) {
-    for (unsigned long k = 0; k < loops.len(); ++k) {
-        if (!allFinite(loops[static_cast<int>(k)])) {
+    for (int k : ORX::internal::indices(loops)) {
+        if (!allFinite(loops[k])) {
             return false;
         }
     }

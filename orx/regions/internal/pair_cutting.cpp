@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "orx/geom/tolerance.h"
-#include "orx/polyline/internal/segment_box.h"
-#include "orx/polyline/internal/segment_grid.h"
+#include "orx/polyline/shared/segment_box.h"
+#include "orx/polyline/shared/segment_grid.h"
 
 namespace ORX {
 namespace internal {

@@ -13,11 +13,6 @@ namespace {
 // List entries per segment the strip height aims at.
 constexpr double kEntriesPerSegment = 3.0;
 
-bool finiteBox(SegmentBox const& b) {
-    return std::isfinite(b.xmin) && std::isfinite(b.ymin) && std::isfinite(b.xmax) &&
-           std::isfinite(b.ymax);
-}
-
 // False only when the segment certainly adds nothing to the winding number of p: p is not
 // level with the chord's span (the ray's half-open rule, as g_bulg_winding has it), and for
 // an arc of at most a half circle also lies outside the chord's box widened by twice the
@@ -55,9 +50,7 @@ void StripIndex::build() {
     m_boxes.reserve(m_segments.size());
     double y0 = HUGE_VAL, y1 = -HUGE_VAL, span = 0.0;
     for (std::size_t k = 0; k < m_segments.size(); ++k) {
-        SegmentBox box = segmentBox(*m_segments[k]);
-        double const margin = pruneMargin(box);
-        box = {box.xmin - margin, box.ymin - margin, box.xmax + margin, box.ymax + margin};
+        SegmentBox const box = prunedBox(segmentBox(*m_segments[k]));
         m_boxes.push_back(box);
         if (!finiteBox(box)) {
             m_everywhere.push_back(static_cast<int>(k));

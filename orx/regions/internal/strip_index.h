@@ -17,7 +17,7 @@
 
 #include <vector>
 
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/vertex.h"
 
 namespace ORX {

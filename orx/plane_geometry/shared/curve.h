@@ -4,8 +4,8 @@
 // chosen origin near the curves: a circle when a != 0, a line when a = 0. An arc of tiny bulge
 // has a tiny a and stays well scaled, where its centre and radius would not; so the meeting
 // points of nearly straight arcs keep the digits of their chords.
-#ifndef ORX_PLANE_GEOMETRY_INTERNAL_CURVE_H
-#define ORX_PLANE_GEOMETRY_INTERNAL_CURVE_H
+#ifndef ORX_PLANE_GEOMETRY_SHARED_CURVE_H
+#define ORX_PLANE_GEOMETRY_SHARED_CURVE_H
 
 namespace ORX {
 namespace internal {
@@ -57,4 +57,4 @@ Meeting circleMeetsCircle(Curve const& c1, Curve const& c2, MeetingTolerance con
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_PLANE_GEOMETRY_INTERNAL_CURVE_H
+#endif  // ORX_PLANE_GEOMETRY_SHARED_CURVE_H

@@ -1,8 +1,7 @@
-// COrxPoint3dArray::ptInside lives with the polylines because its ray test is a segment
-// intersection.
+// COrxPoint3dArray::ptInside: the crossings of one ray with the polygon's edges.
 #include "orx/geom/point_array.h"
-#include "orx/plane_geometry/plane_geometry.h"
-#include "orx/polyline/vertex.h"
+#include "orx/geom/shared/line_intersection.h"
+#include "orx/geom/shared/midpoint.h"
 
 namespace {
 // Length of the test ray: far beyond any drawing.
@@ -16,14 +15,14 @@ bool COrxPoint3dArray::ptInside(COrxPoint3d const& p) const {
     }
     // The ray leaves p towards the middle of the first edge; no re-aiming when it passes
     // through a corner (the polyline test does that).
-    COrxPoint3d const aim = ORX::g_midp3d((*this)[0], (*this)[1]);
-    COrxVertex const ray(p, p + (aim - p).normal() * kInsideRayLength, 0.0);
+    COrxPoint3d const aim = ORX::internal::midpoint((*this)[0], (*this)[1]);
+    COrxPoint3d const rayEnd = p + (aim - p).normal() * kInsideRayLength;
     int crossings = 0;
-    COrxPoint3dArray hits;
     for (int i = 0; i < n; ++i) {
-        COrxVertex const edge((*this)[i], (*this)[(i + 1) % n], 0.0);
-        if (ray.intersectWith(hits, edge, 0)) {
-            crossings += hits.len();
+        COrxPoint3d hit;
+        if (ORX::internal::intersectLines(p, rayEnd, (*this)[i], (*this)[(i + 1) % n], true,
+                                          hit)) {
+            ++crossings;
         }
     }
     return crossings % 2 == 1;

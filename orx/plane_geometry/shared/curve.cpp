@@ -1,9 +1,9 @@
-#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/shared/curve.h"
 
 #include <cmath>
 
 #include <utility>
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 namespace internal {

@@ -10,11 +10,11 @@
 // through it loses the chord's digits in the centre's; in this frame the circle degenerates
 // smoothly into the chord line y = 0, so a tiny bulge behaves as its chord. Coordinates are
 // taken relative to the chord midpoint, so results do not depend on where the segment lies.
-#ifndef ORX_PLANE_GEOMETRY_INTERNAL_ARC_FRAME_H
-#define ORX_PLANE_GEOMETRY_INTERNAL_ARC_FRAME_H
+#ifndef ORX_PLANE_GEOMETRY_SHARED_ARC_FRAME_H
+#define ORX_PLANE_GEOMETRY_SHARED_ARC_FRAME_H
 
 #include "orx/geom/point.h"
-#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/shared/curve.h"
 
 namespace ORX {
 namespace internal {
@@ -81,6 +81,10 @@ public:
     // [0, 2pi): the sweep of the arc that setEndPoint(q) makes.
     double sweepTo(FramePoint const& q) const;
 
+    // The segment start-end-bulge lies within the point tolerance of this circle (or line)
+    // at its ends and at its middle.
+    bool holdsArc(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) const;
+
     // The segment's circle (or line) in drawing units relative to the world point (ox, oy).
     Curve curveAbout(double ox, double oy) const;
     // The chord midpoint.
@@ -104,4 +108,4 @@ private:
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_PLANE_GEOMETRY_INTERNAL_ARC_FRAME_H
+#endif  // ORX_PLANE_GEOMETRY_SHARED_ARC_FRAME_H

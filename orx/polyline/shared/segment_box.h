@@ -5,8 +5,8 @@
 // can report nothing. The operations that test many pairs use this to skip pairs, and give
 // exactly the results of testing every pair. Comparisons are written so that a NaN anywhere
 // counts as "may meet": such segments are always tested.
-#ifndef ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
-#define ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
+#ifndef ORX_POLYLINE_SHARED_SEGMENT_BOX_H
+#define ORX_POLYLINE_SHARED_SEGMENT_BOX_H
 
 #include <vector>
 
@@ -35,6 +35,13 @@ SegmentBox tightBox(COrxVertex const& v);
 // tolerance (a few of them) and the rounding of coordinates as large as the box's.
 double pruneMargin(SegmentBox const& box);
 
+// The box grown by margin on every side.
+SegmentBox widened(SegmentBox box, double margin);
+// The box widened by pruneMargin(box): what a pruning test compares against.
+SegmentBox prunedBox(SegmentBox const& box);
+// Every bound is a finite number (a NaN box, or one that overflowed, is not).
+bool finiteBox(SegmentBox const& box);
+
 // The tests widen the boxes by pruneMargin at the moment they are asked, so a tolerance
 // changed after the boxes were made is honoured.
 // False only when the two segments certainly cannot meet.
@@ -54,4 +61,4 @@ std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl);
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_POLYLINE_INTERNAL_SEGMENT_BOX_H
+#endif  // ORX_POLYLINE_SHARED_SEGMENT_BOX_H

@@ -1,8 +1,8 @@
 // Unpredictable bytes from the operating system's random source, for names that others must
 // not guess (temporary file names, UUIDs). One implementation per platform:
 // random_bytes_win32.cpp / random_bytes_posix.cpp, selected by the build.
-#ifndef ORX_FOUNDATION_INTERNAL_RANDOM_BYTES_H
-#define ORX_FOUNDATION_INTERNAL_RANDOM_BYTES_H
+#ifndef ORX_FOUNDATION_SHARED_RANDOM_BYTES_H
+#define ORX_FOUNDATION_SHARED_RANDOM_BYTES_H
 
 #include <cstddef>
 
@@ -15,4 +15,4 @@ bool randomBytes(void* buffer, std::size_t size);
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_FOUNDATION_INTERNAL_RANDOM_BYTES_H
+#endif  // ORX_FOUNDATION_SHARED_RANDOM_BYTES_H

@@ -1,7 +1,7 @@
-// Guards of the plane-geometry functions against NaN, infinite and overflowing values: the
+// Guards of the geometry functions against NaN, infinite and overflowing values: the
 // formulas stay as written for ordinary input, and these decide what bad input gives.
-#ifndef ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H
-#define ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H
+#ifndef ORX_GEOM_SHARED_FINITE_H
+#define ORX_GEOM_SHARED_FINITE_H
 
 #include <cmath>
 
@@ -46,4 +46,4 @@ inline COrxPoint3d nanPoint() {
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_PLANE_GEOMETRY_INTERNAL_FINITE_H
+#endif  // ORX_GEOM_SHARED_FINITE_H

@@ -1,11 +1,12 @@
-#include "orx/plane_geometry/internal/arc_frame.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 
 #include <cmath>
 
-#include "orx/plane_geometry/internal/finite.h"
+#include "orx/geom/shared/finite.h"
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/internal/curve.h"
+#include "orx/plane_geometry/shared/bulge_sweep.h"
+#include "orx/plane_geometry/shared/curve.h"
 
 namespace ORX {
 namespace internal {
@@ -68,7 +69,7 @@ void ArcFrame::toWorldDirection(FramePoint const& v, double& dx, double& dy) con
 }
 
 double ArcFrame::sweepAngle() const {
-    return 4 * std::atan(std::fabs(m_b));
+    return bulgeSweep(std::fabs(m_b));
 }
 
 double ArcFrame::radius() const {
@@ -156,6 +157,18 @@ double ArcFrame::sweepTo(FramePoint const& q) const {
         phi += kTwoPi;
     }
     return phi;
+}
+
+bool ArcFrame::holdsArc(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) const {
+    double const within = COrxPoint3d::tol / m_h;  // in half chords
+    auto near = [this, within](double x, double y) {
+        return std::fabs(circleDistance(toFrame(x, y))) <= within;
+    };
+    // The middle (as g_bulg_mid gives it for an arc) last: most pairs are told apart by an end.
+    double const dx = end.x - start.x, dy = end.y - start.y;
+    double const mx = (start.x + end.x) / 2 + dy * (bulge / 2);
+    double const my = (start.y + end.y) / 2 - dx * (bulge / 2);
+    return near(start.x, start.y) && near(end.x, end.y) && near(mx, my);
 }
 
 Curve ArcFrame::curveAbout(double ox, double oy) const {

@@ -1,10 +1,10 @@
 // The area integrals of a closed bulge polyline, exact for arcs: Green's theorem over the
 // chords (signed triangles from a local origin) plus the closed-form integrals of the
 // circular segment between every arc and its chord.
-#ifndef ORX_POLYLINE_INTERNAL_LOOP_MOMENTS_H
-#define ORX_POLYLINE_INTERNAL_LOOP_MOMENTS_H
+#ifndef ORX_POLYLINE_SHARED_LOOP_MOMENTS_H
+#define ORX_POLYLINE_SHARED_LOOP_MOMENTS_H
 
-#include "orx/geom/internal/area_moments.h"
+#include "orx/geom/shared/area_moments.h"
 #include "orx/geom/point.h"
 #include "orx/polyline/vertex_array.h"
 
@@ -38,4 +38,4 @@ AreaMoments loopMoments(COrxVertexArray const& vl, COrxPoint3d const& origin);
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_POLYLINE_INTERNAL_LOOP_MOMENTS_H
+#endif  // ORX_POLYLINE_SHARED_LOOP_MOMENTS_H

@@ -1,4 +1,4 @@
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,14 +23,6 @@ void include(SegmentBox& box, COrxPoint3d const& p) {
     box.ymax = std::max(box.ymax, p.y);
 }
 
-SegmentBox widened(SegmentBox box, double margin) {
-    box.xmin -= margin;
-    box.ymin -= margin;
-    box.xmax += margin;
-    box.ymax += margin;
-    return box;
-}
-
 SegmentBox nanBox() {
     return SegmentBox{nan(), nan(), nan(), nan()};
 }
@@ -41,9 +33,7 @@ SegmentBox chordBox(COrxVertex const& v) {
     COrxPoint3d const& e = v.endPoint();
     SegmentBox box{s.x, s.y, s.x, s.y};
     include(box, e);
-    bool const finite = std::isfinite(box.xmin) && std::isfinite(box.ymin) &&
-                        std::isfinite(box.xmax) && std::isfinite(box.ymax);
-    return finite ? box : nanBox();
+    return finiteBox(box) ? box : nanBox();
 }
 
 // How far the arc reaches beyond its chord midpoint in the direction (dx, dy) (a unit axis),
@@ -114,9 +104,27 @@ SegmentBox segmentBox(COrxVertex const& v) {
 }
 
 double pruneMargin(SegmentBox const& box) {
-    double const size = std::max(
-        {std::fabs(box.xmin), std::fabs(box.ymin), std::fabs(box.xmax), std::fabs(box.ymax)});
+    // The largest magnitude of the coordinates: max(-min, max) on each axis. An inverted box
+    // (of nothing) gets a negative margin and so stays apart from everything.
+    double const size = std::max(std::max(-box.xmin, box.xmax), std::max(-box.ymin, box.ymax));
     return kMarginTolerances * COrxPoint3d::tol + kMarginRelative * size;
+}
+
+SegmentBox widened(SegmentBox box, double margin) {
+    box.xmin -= margin;
+    box.ymin -= margin;
+    box.xmax += margin;
+    box.ymax += margin;
+    return box;
+}
+
+SegmentBox prunedBox(SegmentBox const& box) {
+    return widened(box, pruneMargin(box));
+}
+
+bool finiteBox(SegmentBox const& box) {
+    return std::isfinite(box.xmin) && std::isfinite(box.ymin) && std::isfinite(box.xmax) &&
+           std::isfinite(box.ymax);
 }
 
 bool mayOverlap(SegmentBox const& a, SegmentBox const& b) {
@@ -126,12 +134,12 @@ bool mayOverlap(SegmentBox const& a, SegmentBox const& b) {
 }
 
 bool mayContain(SegmentBox const& box, COrxPoint3d const& p) {
-    SegmentBox const wide = widened(box, pruneMargin(box));
+    SegmentBox const wide = prunedBox(box);
     return !(p.x < wide.xmin || p.x > wide.xmax || p.y < wide.ymin || p.y > wide.ymax);
 }
 
 bool mayCross(SegmentBox const& tight, COrxPoint3d const& p, COrxPoint3d const& q) {
-    SegmentBox const box = widened(tight, pruneMargin(tight));
+    SegmentBox const box = prunedBox(tight);
     // Slab test of the segment p + t (q - p), t in [0, 1], against the box.
     double t0 = 0.0, t1 = 1.0;
     double const start[2] = {p.x, p.y};

@@ -1,4 +1,4 @@
-#include "orx/geom/internal/area_moments.h"
+#include "orx/geom/shared/area_moments.h"
 
 #include <cmath>
 

@@ -3,8 +3,8 @@
 // chooses near the area, and turned into the section properties about the centroid. Shared
 // by the section properties of point polygons, polylines and regions, so that one set of
 // formulas serves all three.
-#ifndef ORX_GEOM_INTERNAL_AREA_MOMENTS_H
-#define ORX_GEOM_INTERNAL_AREA_MOMENTS_H
+#ifndef ORX_GEOM_SHARED_AREA_MOMENTS_H
+#define ORX_GEOM_SHARED_AREA_MOMENTS_H
 
 namespace ORX {
 namespace internal {
@@ -41,4 +41,4 @@ bool toCentral(AreaMoments const& m, double minArea, CentralMoments& out);
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_GEOM_INTERNAL_AREA_MOMENTS_H
+#endif  // ORX_GEOM_SHARED_AREA_MOMENTS_H

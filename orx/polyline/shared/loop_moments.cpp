@@ -1,4 +1,4 @@
-#include "orx/polyline/internal/loop_moments.h"
+#include "orx/polyline/shared/loop_moments.h"
 
 #include <cmath>
 

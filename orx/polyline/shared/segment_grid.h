@@ -1,16 +1,17 @@
-// A uniform grid over segment boxes, for finding the segments near a box or along a ray.
+// A uniform grid over segment boxes, with cells sized by the average box, for finding the
+// segments near a box or along a ray.
 //
 // Queries return a superset of the segments whose boxes may meet the query (the exact box
 // tests of segment_box.h decide), as ascending, unique indexes, so that callers can visit
 // candidates in the same order as a loop over all segments would. The grid is built for the
 // point tolerance of the moment; it stays valid while the tolerance does not grow.
-#ifndef ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
-#define ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
+#ifndef ORX_POLYLINE_SHARED_SEGMENT_GRID_H
+#define ORX_POLYLINE_SHARED_SEGMENT_GRID_H
 
 #include <vector>
 
 #include "orx/geom/point.h"
-#include "orx/polyline/internal/segment_box.h"
+#include "orx/polyline/shared/segment_box.h"
 
 namespace ORX {
 namespace internal {
@@ -28,6 +29,7 @@ private:
     struct CellRange {
         int x0, y0, x1, y1;
     };
+    void chooseCells(SegmentBox const& all, double meanWidth, double meanHeight, int count);
     bool cellRange(SegmentBox const& wide, CellRange& range) const;
     void collect(CellRange const& range, std::vector<int>& out) const;
     void addRow(int row, double xa, double xb, std::vector<int>& out) const;
@@ -43,4 +45,4 @@ private:
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_POLYLINE_INTERNAL_SEGMENT_GRID_H
+#endif  // ORX_POLYLINE_SHARED_SEGMENT_GRID_H
