@@ -1,6 +1,9 @@
 #include "orx/foundation/array.h"
 
 #include <climits>
+#include <cstdint>
+
+#include "orx/foundation/shared/relocatable_block.h"
 
 COrxArray::COrxArray() : m_capacity(0), m_length(0) {}
 
@@ -37,9 +40,9 @@ int COrxArray::setLength(int n) {
 }
 
 int COrxArray::nextCapacity(int capacity, int n) {
-    while (capacity < n) {
-        // Doubling past INT_MAX would overflow; the request itself is then the capacity.
-        capacity = capacity > INT_MAX / 2 ? n : (capacity * 2 > 8 ? capacity * 2 : 8);
+    if (n <= capacity) {
+        return capacity;
     }
-    return capacity;
+    return static_cast<int>(ORX::internal::grownCapacity(static_cast<std::uint64_t>(capacity),
+                                                         static_cast<std::uint64_t>(n), INT_MAX));
 }

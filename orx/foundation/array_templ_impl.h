@@ -4,26 +4,15 @@
 #ifndef ORX_FOUNDATION_ARRAY_TEMPL_IMPL_H
 #define ORX_FOUNDATION_ARRAY_TEMPL_IMPL_H
 
-#include <cstring>
 #include <functional>
-#include <new>
 #include <type_traits>
 #include <utility>
 
 #include "orx/foundation/array_templ.h"
+#include "orx/foundation/shared/relocatable_block.h"
 
 namespace ORX {
 namespace internal {
-
-// Elements move as raw bytes, table pointer included; callers of the array rely on no copy
-// constructor running on growth, removal, reversal or sorting.
-template <class T>
-inline void swapBytes(T& a, T& b) {
-    alignas(T) unsigned char scratch[sizeof(T)];
-    std::memcpy(scratch, static_cast<void*>(&a), sizeof(T));
-    std::memcpy(static_cast<void*>(&a), static_cast<void*>(&b), sizeof(T));
-    std::memcpy(static_cast<void*>(&b), scratch, sizeof(T));
-}
 
 template <class T, class = void>
 struct HasOrder : std::false_type {};
@@ -163,32 +152,10 @@ bool COrxArrayTempl<T>::allocate(unsigned long n) {
     if (n > UINT32_MAX) {
         return false;
     }
-    std::uint64_t capacity = m_capacity == 0 ? 8 : m_capacity;
-    while (capacity < n) {
-        capacity *= 2;
-    }
-    if (capacity > UINT32_MAX) {
-        capacity = n;  // doubling would leave the 32-bit range: take exactly what is asked
-    }
-    // Class elements: array-new constructs every slot (zero bytes, then the default
-    // constructor) and the class allocation reports failure with null. Scalars stay
-    // uninitialised.
-    T* block;
-    if constexpr (std::is_class<T>::value) {
-        block = new T[capacity];
-    } else {
-        block = new (std::nothrow) T[capacity];
-    }
-    if (block == nullptr) {
+    std::uint64_t const capacity = ORX::internal::grownCapacity(m_capacity, n, UINT32_MAX);
+    if (!ORX::internal::growBlock(m_data, m_length, static_cast<std::size_t>(capacity))) {
         return false;
     }
-    // The old slots' bytes are exchanged with the fresh default objects, so the old block
-    // can be destroyed normally.
-    for (std::uint32_t k = 0; k < m_length; ++k) {
-        ORX::internal::swapBytes(block[k], m_data[k]);
-    }
-    delete[] m_data;
-    m_data = block;
     m_capacity = static_cast<std::uint32_t>(capacity);
     return true;
 }

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstddef>
 #include <functional>
 #include <vector>
 
+#include "orx/foundation/shared/relocatable_block.h"
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/plane.h"
@@ -30,19 +32,12 @@ COrxPoint3dArray& COrxPoint3dArray::operator=(COrxPoint3dArray const& other) {
 
 int COrxPoint3dArray::setLength(int n) {
     int const oldLength = len();
-    // The base rule is asked on a copy of the counts first, so that a failed allocation
-    // leaves this array exactly as it was.
-    COrxPoint3dArray probe;
-    probe.COrxArray::operator=(*this);
-    int const newCapacity = probe.COrxArray::setLength(n);
-    if (newCapacity > 0) {
-        COrxPoint3d* const block = new COrxPoint3d[static_cast<std::size_t>(newCapacity)];
-        if (block == nullptr) {
-            return oldLength;
-        }
-        std::copy(m_points, m_points + oldLength, block);
-        delete[] m_points;
-        m_points = block;
+    // The block grows before the counts change, so that a failed allocation leaves this
+    // array exactly as it was.
+    if (n > capacity() &&
+        !ORX::internal::growBlock(m_points, static_cast<std::size_t>(oldLength),
+                                  static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
+        return oldLength;
     }
     COrxArray::setLength(n);
     resetSlots(oldLength, len());

@@ -97,7 +97,7 @@ public:
 
 protected:
     // Calls the COrxArray body for the new counts; when it raises the capacity, a block of
-    // that many points replaces the old one (the old points copied over). Returns the new
+    // that many points replaces the old one (the old points moved over). Returns the new
     // logical length, or the old one when the block could not grow.
     int setLength(int n) override;
 

@@ -2,21 +2,10 @@
 #include "orx/polyline/vertex_array.h"
 
 #include <climits>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 
-namespace {
-
-// Segments move between blocks as raw bytes (table pointers included); callers rely on no
-// copy constructor running when the storage grows or segments shift.
-void swapBytes(COrxVertex& a, COrxVertex& b) {
-    alignas(COrxVertex) unsigned char scratch[sizeof(COrxVertex)];
-    std::memcpy(scratch, static_cast<void*>(&a), sizeof(COrxVertex));
-    std::memcpy(static_cast<void*>(&a), static_cast<void*>(&b), sizeof(COrxVertex));
-    std::memcpy(static_cast<void*>(&b), scratch, sizeof(COrxVertex));
-}
-
-}  // namespace
+#include "orx/foundation/shared/relocatable_block.h"
 
 COrxVertexArray::COrxVertexArray() : m_normal(COrxVector3d::kZAxis), m_vertices(nullptr) {}
 
@@ -82,7 +71,8 @@ COrxVertexArray& COrxVertexArray::operator+=(COrxVertexArray const& other) {
 int COrxVertexArray::setLength(int n) {
     int const used = len();
     bool const grows = n > capacity();
-    if (grows && !reallocate(nextCapacity(capacity(), n), used)) {
+    if (grows && !ORX::internal::growBlock(m_vertices, static_cast<std::size_t>(used),
+                                           static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
         return used;  // out of memory: nothing changed
     }
     COrxArray::setLength(n);
@@ -105,20 +95,6 @@ int COrxVertexArray::setLogicalLength(int n) {
     return len();
 }
 
-bool COrxVertexArray::reallocate(int newCapacity, int used) {
-    // Array-new constructs default segments; a failed class allocation returns null.
-    COrxVertex* block = new COrxVertex[newCapacity];
-    if (block == nullptr) {
-        return false;
-    }
-    for (int k = 0; k < used; ++k) {
-        swapBytes(block[k], m_vertices[k]);
-    }
-    delete[] m_vertices;
-    m_vertices = block;
-    return true;
-}
-
 void COrxVertexArray::resetSlots(int from, int to) {
     // Slots past the length may still hold removed segments.
     for (int k = from; k < to; ++k) {
@@ -128,13 +104,13 @@ void COrxVertexArray::resetSlots(int from, int to) {
 
 void COrxVertexArray::shiftUp(int from) {
     for (int k = len() - 1; k > from; --k) {
-        swapBytes(m_vertices[k], m_vertices[k - 1]);
+        ORX::internal::swapBytes(m_vertices[k], m_vertices[k - 1]);
     }
 }
 
 void COrxVertexArray::shiftDown(int from) {
     for (int k = from; k + 1 < len(); ++k) {
-        swapBytes(m_vertices[k], m_vertices[k + 1]);
+        ORX::internal::swapBytes(m_vertices[k], m_vertices[k + 1]);
     }
 }
 

@@ -159,7 +159,6 @@ protected:
     bool isMember(COrxVertex const& v) const;
 
 private:
-    bool reallocate(int newCapacity, int used);
     void resetSlots(int from, int to);
     // Bitwise shifts by one slot within the current length: the segment at the last index
     // travels down to `from` / the segment at `from` travels up to the last index.

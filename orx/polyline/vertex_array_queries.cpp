@@ -4,10 +4,11 @@
 #include <vector>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/shared/unique_points.h"
 #include "orx/plane_geometry/plane_geometry.h"
 #include "orx/plane_geometry/shared/bulge_sweep.h"
+#include "orx/polyline/shared/near_pairs.h"
 #include "orx/polyline/shared/segment_box.h"
-#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 #include "orx/polyline/vertex_functions.h"
 
@@ -171,11 +172,13 @@ bool COrxVertexArray::intersectWith(COrxPoint3dArray& pts, COrxVertexArray const
     }
     // Extended lines and circles meet far from the segments: only then is every pair tested.
     COrxPoint3dArray found;
+    ORX::internal::UniquePoints unique(pts);
     auto testPair = [&](int i, int j) {
         m_vertices[i].intersectWith(found, other.m_vertices[j], flags);
         for (int k = 0; k < found.len(); ++k) {
-            pts.appendUniq(found[k]);
+            unique.add(found[k]);
         }
+        return true;
     };
     if ((flags & COrxVertex::kExtended) != 0) {
         for (int i = 0; i < len(); ++i) {
@@ -183,21 +186,8 @@ bool COrxVertexArray::intersectWith(COrxPoint3dArray& pts, COrxVertexArray const
                 testPair(i, j);
             }
         }
-        return !pts.isEmpty();
-    }
-    // Segments meet only where their boxes overlap: for each segment of this polyline, the
-    // other's segments near it, in ascending order, as the loop over all pairs visits them.
-    std::vector<ORX::internal::SegmentBox> const mine = ORX::internal::segmentBoxes(*this);
-    std::vector<ORX::internal::SegmentBox> const theirs = ORX::internal::segmentBoxes(other);
-    ORX::internal::SegmentGrid const grid(theirs);
-    std::vector<int> near;
-    for (int i = 0; i < len(); ++i) {
-        grid.query(mine[i], near);
-        for (int j : near) {
-            if (ORX::internal::mayOverlap(mine[i], theirs[j])) {
-                testPair(i, j);
-            }
-        }
+    } else {
+        ORX::internal::forEachNearPair(*this, other, testPair);
     }
     return !pts.isEmpty();
 }
@@ -217,6 +207,7 @@ bool COrxVertexArray::intersectWithBulg0(COrxPoint3dArray& pts,
     }
     std::vector<ORX::internal::SegmentBox> const mine = ORX::internal::segmentBoxes(*this);
     std::vector<ORX::internal::SegmentBox> const theirs = ORX::internal::segmentBoxes(other);
+    ORX::internal::UniquePoints unique(pts);
     for (int i = 0; i < len(); ++i) {
         for (int j = 0; j < other.len(); ++j) {
             // Chords lie within their segments' boxes.
@@ -225,7 +216,7 @@ bool COrxVertexArray::intersectWithBulg0(COrxPoint3dArray& pts,
             }
             COrxPoint3dArray const found = m_vertices[i].intersectWithBulg0(other.m_vertices[j]);
             for (int k = 0; k < found.len(); ++k) {
-                pts.appendUniq(found[k]);
+                unique.add(found[k]);
             }
         }
     }

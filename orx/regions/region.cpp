@@ -12,9 +12,10 @@
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/foundation/shared/index_range.h"
 #include "orx/geom/tolerance.h"
+#include "orx/polyline/polyline_functions.h"
+#include "orx/polyline/shared/near_pairs.h"
 #include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/shared/segment_grid.h"
-#include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/indexed_polyline.h"
 #include "orx/regions/internal/loop_grouping.h"
@@ -36,8 +37,8 @@ COrxVector3d& referenceNormal() {
 }
 
 bool disjoint(Region const& a, Region const& b) {
-    COrxPoint3dArray pts;
-    return !a[0].intersectWith(pts, b[0], 0) && !g_vl_pt_inside(a[0], b[0][0].startPoint(), true) &&
+    return !internal::polylinesMeet(a[0], b[0]) &&
+           !g_vl_pt_inside(a[0], b[0][0].startPoint(), true) &&
            !g_vl_pt_inside(b[0], a[0][0].startPoint(), true);
 }
 

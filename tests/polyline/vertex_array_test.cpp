@@ -186,3 +186,32 @@ TEST(PolylineAreaTest, ExactForArcsAndAddedUpOverLoops) {
     EXPECT_NEAR(ORX::g_vl_area(far), 1.0, 1e-9);
     EXPECT_EQ(ORX::g_vl_area(COrxVertexArray()), 0.0);
 }
+
+TEST(COrxVertexArrayTest, StorageGrowsLikeEveryOtherArray) {
+    // Capacities are visible to callers: every array doubles from 8, step by step or at once.
+    COrxVertexArray segments;
+    COrxPoint3dArray points;
+    COrxArrayTempl<double> values;
+    int expected = 8;
+    for (int n = 1; n <= 300; ++n) {
+        segments.append(COrxVertex(pt(n, 0), pt(n + 1, 0), 0.0));
+        points.append(pt(n, 0));
+        values.append(n);
+        expected = n > expected ? 2 * expected : expected;
+        ASSERT_EQ(segments.capacity(), expected) << n;
+        ASSERT_EQ(points.capacity(), expected) << n;
+        ASSERT_EQ(values.capacity(), static_cast<unsigned long>(expected)) << n;
+    }
+    EXPECT_EQ(segments[0].startPoint(), pt(1, 0));  // the moves kept every element
+    EXPECT_EQ(segments[-1].startPoint(), pt(300, 0));
+    EXPECT_EQ(points[150], pt(151, 0));
+
+    COrxVertexArray direct;
+    COrxPoint3dArray directPoints;
+    EXPECT_EQ(direct.setLogicalLength(129), 129);
+    EXPECT_EQ(directPoints.setLogicalLength(129), 129);
+    EXPECT_EQ(direct.capacity(), 256);
+    EXPECT_EQ(directPoints.capacity(), 256);
+    EXPECT_EQ(direct.setLogicalLength(-1), 0);  // no length below 0, no shrinking
+    EXPECT_EQ(direct.capacity(), 256);
+}

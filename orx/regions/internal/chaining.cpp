@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "orx/regions/internal/point_cells.h"
+#include "orx/geom/shared/point_cells.h"
 
 namespace ORX {
 namespace internal {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "orx/polyline/vertex.h"
-#include "orx/regions/internal/point_cells.h"
+#include "orx/geom/shared/point_cells.h"
 
 namespace ORX {
 namespace internal {

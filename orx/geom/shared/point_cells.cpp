@@ -1,4 +1,4 @@
-#include "orx/regions/internal/point_cells.h"
+#include "orx/geom/shared/point_cells.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,8 +5,8 @@
 // by two cells around it. The cells are kept in a hash table of chained buckets; different
 // cells may share a bucket, and absurd coordinates are folded into the outermost cells,
 // which only adds candidates: the caller compares the points it is handed.
-#ifndef ORX_REGIONS_INTERNAL_POINT_CELLS_H
-#define ORX_REGIONS_INTERNAL_POINT_CELLS_H
+#ifndef ORX_GEOM_SHARED_POINT_CELLS_H
+#define ORX_GEOM_SHARED_POINT_CELLS_H
 
 #include <cstdint>
 #include <vector>
@@ -66,4 +66,4 @@ private:
 }  // namespace internal
 }  // namespace ORX
 
-#endif  // ORX_REGIONS_INTERNAL_POINT_CELLS_H
+#endif  // ORX_GEOM_SHARED_POINT_CELLS_H
