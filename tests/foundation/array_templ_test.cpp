@@ -199,10 +199,10 @@ TEST(COrxArrayTemplTest, SortIsStableAndLeavesVectorsInPlace) {
 }
 
 TEST(COrxArrayTemplTest, OrderingComparesElementsThenLengths) {
-    EXPECT_TRUE(arr({1, 2}) < arr({1, 2, 0}));
+    EXPECT_LT(arr({1, 2}), arr({1, 2, 0}));
     EXPECT_FALSE(arr({1, 2}) < arr({1, 2}));
-    EXPECT_TRUE(arr<int>({}) < arr({0}));
-    EXPECT_TRUE(arr({1, 5}) < arr({2}));
+    EXPECT_LT(arr<int>({}), arr({0}));
+    EXPECT_LT(arr({1, 5}), arr({2}));
     EXPECT_NE(arr({1}), arr({1, 1}));
 }
 

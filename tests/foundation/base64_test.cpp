@@ -32,12 +32,12 @@ TEST(Base64Test, EncodesTheStandardVectors) {
         EXPECT_EQ(std::wstring(encoded), std::wstring(v[1], v[1] + std::string(v[1]).size()));
         COrxArrayTempl<unsigned char> decoded;
         ASSERT_TRUE(ORX::base64Decode(decoded, encoded)) << v[1];
-        EXPECT_TRUE(decoded == bytesOf(v[0])) << v[1];
+        EXPECT_EQ(decoded, bytesOf(v[0])) << v[1];
     }
     unsigned char const highBits[] = {0xFB, 0xFF, 0xBF};
-    EXPECT_TRUE(ORX::base64Encode(highBits, 3) == L"+/+/");
+    EXPECT_EQ(ORX::base64Encode(highBits, 3), L"+/+/");
     EXPECT_TRUE(ORX::base64Encode(nullptr, 1).isNull());
-    EXPECT_TRUE(ORX::base64Encode(nullptr, 0) == L"");
+    EXPECT_EQ(ORX::base64Encode(nullptr, 0), L"");
 }
 
 TEST(Base64Test, EveryByteStringRoundTrips) {
@@ -49,14 +49,14 @@ TEST(Base64Test, EveryByteStringRoundTrips) {
         }
         COrxArrayTempl<unsigned char> back;
         ASSERT_TRUE(ORX::base64Decode(back, ORX::base64Encode(bytes))) << length;
-        EXPECT_TRUE(back == bytes) << length;
+        EXPECT_EQ(back, bytes) << length;
     }
 }
 
 TEST(Base64Test, DecodingSkipsLineBreaksAndRejectsBadInput) {
     COrxArrayTempl<unsigned char> bytes;
     ASSERT_TRUE(ORX::base64Decode(bytes, L" Zm9v\r\nYmFy\t"));
-    EXPECT_TRUE(bytes == bytesOf("foobar"));
+    EXPECT_EQ(bytes, bytesOf("foobar"));
 
     wchar_t const* const bad[] = {
         L"Zm9",       // length
@@ -71,7 +71,7 @@ TEST(Base64Test, DecodingSkipsLineBreaksAndRejectsBadInput) {
     for (wchar_t const* text : bad) {
         COrxArrayTempl<unsigned char> untouched = bytesOf("x");
         EXPECT_FALSE(ORX::base64Decode(untouched, text)) << text;
-        EXPECT_TRUE(untouched == bytesOf("x")) << text;
+        EXPECT_EQ(untouched, bytesOf("x")) << text;
     }
     EXPECT_FALSE(ORX::base64Decode(bytes, nullptr));
     ASSERT_TRUE(ORX::base64Decode(bytes, L""));

@@ -51,5 +51,5 @@ TEST(CodePagePosixTest, WithoutAConverterTheCodePageGivesNull) {
         },
         ::testing::ExitedWithCode(0), "");
     // Once converters open again, so do the code pages.
-    EXPECT_TRUE(COrxString().fromMultiByte("abc", 1252) == L"abc");
+    EXPECT_EQ(COrxString().fromMultiByte("abc", 1252), L"abc");
 }

@@ -37,23 +37,25 @@ TEST(CodePageTest, NullInputAndUnknownCodePagesGiveNull) {
     EXPECT_TRUE(COrxString(L"x").fromMultiByte("abc", 12345).isNull());
     EXPECT_EQ(toBytes(COrxString(), 1252), "!null");
     EXPECT_EQ(toBytes(COrxString(L"abc"), -1), "!null");
-    EXPECT_TRUE(fromBytes("", 1252) == L"");
+    EXPECT_EQ(fromBytes("", 1252), L"");
     EXPECT_EQ(toBytes(COrxString(L""), 65001), "");
 }
 
 TEST(CodePageTest, Utf8BytesAndIllFormedInput) {
     COrxString const text(L"a\u00e4\u20ac\U0001F600");
     EXPECT_EQ(toBytes(text, 65001), "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
-    EXPECT_TRUE(fromBytes("a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", 65001) == text);
+    EXPECT_EQ(fromBytes("a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", 65001), text);
     // UTF-8 carries no escapes: the text comes back as written.
-    EXPECT_TRUE(fromBytes("\\U+0041", 65001) == L"\\U+0041");
-    EXPECT_TRUE(fromBytes("a\xFF"
-                          "b",
-                          65001) == L"a\uFFFDb");
-    EXPECT_TRUE(fromBytes("a\xC3", 65001) == L"a\uFFFD");
-    EXPECT_TRUE(fromBytes("a\xE2\x82"
-                          "b",
-                          65001) == L"a\uFFFDb");
+    EXPECT_EQ(fromBytes("\\U+0041", 65001), L"\\U+0041");
+    EXPECT_EQ(fromBytes("a\xFF"
+                        "b",
+                        65001),
+              L"a\uFFFDb");
+    EXPECT_EQ(fromBytes("a\xC3", 65001), L"a\uFFFD");
+    EXPECT_EQ(fromBytes("a\xE2\x82"
+                        "b",
+                        65001),
+              L"a\uFFFDb");
     wchar_t const lone[] = {L'a', static_cast<wchar_t>(0xD800), L'b', 0};
     EXPECT_EQ(toBytes(COrxString(lone), 65001),
               "a\xEF\xBF\xBD"
@@ -67,25 +69,25 @@ TEST(CodePageTest, CharactersOutsideTheCodePageSurviveTheRoundTrip) {
     EXPECT_EQ(toBytes(text, 1252),
               "Gr\xFC\xDF"
               "e \x80 \\U+4e2d \\U+263a \\U+d83d\\U+de00 \\U+005cU+0041 \\ ok");
-    EXPECT_TRUE(fromBytes(toBytes(text, 1252).c_str(), 1252) == text);
+    EXPECT_EQ(fromBytes(toBytes(text, 1252).c_str(), 1252), text);
     int const codePages[] = {437,  850,  852,  866,   932,   936,   1250,  1251,  1252,
                              1253, 1254, 1257, 20866, 28591, 28592, 28595, 28599, 28605};
     for (int codePage : codePages) {
         std::string const bytes = toBytes(text, codePage);
-        EXPECT_TRUE(fromBytes(bytes.c_str(), codePage) == text) << codePage;
+        EXPECT_EQ(fromBytes(bytes.c_str(), codePage), text) << codePage;
     }
     // Text without anything to escape converts as is.
     EXPECT_EQ(toBytes(COrxString(L"plain \\ text"), 1252), "plain \\ text");
 }
 
 TEST(CodePageTest, DoubleByteCodePages) {
-    EXPECT_TRUE(fromBytes("\x93\xFA\x96\x7B", 932) == L"\u65e5\u672c");
+    EXPECT_EQ(fromBytes("\x93\xFA\x96\x7B", 932), L"\u65e5\u672c");
     EXPECT_EQ(toBytes(COrxString(L"\u65e5\u672c"), 932), "\x93\xFA\x96\x7B");
-    EXPECT_TRUE(fromBytes("\xD6\xD0\xCE\xC4\x80", 936) == L"\u4e2d\u6587\u20ac");
+    EXPECT_EQ(fromBytes("\xD6\xD0\xCE\xC4\x80", 936), L"\u4e2d\u6587\u20ac");
     EXPECT_EQ(toBytes(COrxString(L"\u4e2d\u6587\u20ac"), 936), "\xD6\xD0\xCE\xC4\x80");
-    EXPECT_TRUE(fromBytes("\\~", 932) == L"\\~");
+    EXPECT_EQ(fromBytes("\\~", 932), L"\\~");
     // Single bytes Windows assigns although glibc does not.
-    EXPECT_TRUE(fromBytes("\x80\xA0\xFD", 932) == L"\u0080\uf8f0\uf8f1");
+    EXPECT_EQ(fromBytes("\x80\xA0\xFD", 932), L"\u0080\uf8f0\uf8f1");
     EXPECT_EQ(toBytes(COrxString(L"\u0080\uf8f0"), 932), "\x80\xA0");
     // No look-alike stands in for a missing character: the yen sign is escaped, not 0x5C.
     EXPECT_EQ(toBytes(COrxString(L"\u00a5\u00e4"), 932), "\\U+00a5\\U+00e4");
@@ -115,8 +117,8 @@ TEST(CodePageTest, EveryByteOfTheSingleByteCodePagesDecodesAsOnWindows) {
         EXPECT_EQ(toBytes(text, table.codePage), std::string(bytes)) << table.codePage;
     }
     // The five bytes of 1252 that Windows maps to the control characters of their number.
-    EXPECT_TRUE(fromBytes("\x81\x8D\x8F\x90\x9D", 1252) == L"\u0081\u008d\u008f\u0090\u009d");
-    EXPECT_TRUE(fromBytes("\x80\x9F\xFF", 1252) == L"\u20ac\u0178\u00ff");
+    EXPECT_EQ(fromBytes("\x81\x8D\x8F\x90\x9D", 1252), L"\u0081\u008d\u008f\u0090\u009d");
+    EXPECT_EQ(fromBytes("\x80\x9F\xFF", 1252), L"\u20ac\u0178\u00ff");
 }
 
 TEST(CodePageTest, CodePagesBeyondTheWesternOnesConvertBothWays) {
@@ -139,24 +141,24 @@ TEST(CodePageTest, CodePagesBeyondTheWesternOnesConvertBothWays) {
         {28597, "\xE1", L"\u03b1"},              // ISO 8859-7
     };
     for (Case const& c : cases) {
-        EXPECT_TRUE(fromBytes(c.bytes, c.codePage) == c.text) << c.codePage;
+        EXPECT_EQ(fromBytes(c.bytes, c.codePage), c.text) << c.codePage;
         EXPECT_EQ(toBytes(COrxString(c.text), c.codePage), c.bytes) << c.codePage;
         // What the code page cannot hold travels as an escape here too.
         COrxString const foreign(L"\u2603");
-        EXPECT_TRUE(fromBytes(toBytes(foreign, c.codePage).c_str(), c.codePage) == foreign)
+        EXPECT_EQ(fromBytes(toBytes(foreign, c.codePage).c_str(), c.codePage), foreign)
             << c.codePage;
     }
 }
 
 TEST(CodePageTest, TheSystemCodePagesConvert) {
     for (int codePage : {0, 1}) {
-        EXPECT_TRUE(fromBytes("abc 123", codePage) == L"abc 123") << codePage;
+        EXPECT_EQ(fromBytes("abc 123", codePage), L"abc 123") << codePage;
         EXPECT_EQ(toBytes(COrxString(L"abc 123"), codePage), "abc 123") << codePage;
     }
 #ifndef _WIN32
     // Linux has no system code pages: ANSI stands for 1252 and OEM for 850.
-    EXPECT_TRUE(fromBytes("\x80\xFC", 0) == L"\u20ac\u00fc");
-    EXPECT_TRUE(fromBytes("\x81\xD5", 1) == L"\u00fc\u0131");
+    EXPECT_EQ(fromBytes("\x80\xFC", 0), L"\u20ac\u00fc");
+    EXPECT_EQ(fromBytes("\x81\xD5", 1), L"\u00fc\u0131");
     EXPECT_EQ(toBytes(COrxString(L"\u00fc"), 1), "\x81");
 #endif
 }

@@ -50,7 +50,8 @@ TEST(OemAnsiTest, ConvertsBetweenTheSystemCodePages) {
     char* ansiBytes = nullptr;
     std::unique_ptr<char[]> oem(text.toMultiByte(oemBytes, 1));
     std::unique_ptr<char[]> ansi(text.toMultiByte(ansiBytes, 0));
-    ASSERT_TRUE(oem != nullptr && ansi != nullptr);
+    ASSERT_NE(oem, nullptr);
+    ASSERT_NE(ansi, nullptr);
     EXPECT_EQ(converted(ORX::dosToWin, oem.get()), ansi.get());
     EXPECT_EQ(converted(ORX::winToDos, ansi.get()), oem.get());
 #ifndef _WIN32
@@ -81,7 +82,7 @@ TEST(CodePageOfCountryTest, LooksUpTheTableByCodeOrName) {
 TEST(CountryTableTest, IsOrderedAndEveryCodePageConverts) {
     unsigned long count = 0;
     ORX::CountryEntry const* const table = ORX::orxDlCountrys(count);
-    ASSERT_TRUE(table != nullptr);
+    ASSERT_NE(table, nullptr);
     ASSERT_GT(count, 50ul);
     for (unsigned long k = 0; k < count; ++k) {
         ORX::CountryEntry const& country = table[k];
@@ -95,7 +96,7 @@ TEST(CountryTableTest, IsOrderedAndEveryCodePageConverts) {
                 continue;
             }
 #endif
-            EXPECT_TRUE(COrxString().fromMultiByte("abc", codePage) == L"abc")
+            EXPECT_EQ(COrxString().fromMultiByte("abc", codePage), L"abc")
                 << country.isoCode << " " << codePage;
         }
         EXPECT_EQ(ORX::codePage(country.name, false), country.ansiCodePage) << country.isoCode;

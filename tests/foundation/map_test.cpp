@@ -38,19 +38,25 @@ TEST(COrxMapTemplTest, KeysStaySortedAndSetAtTellsWhetherTheKeyExisted) {
     EXPECT_TRUE(map[3].isNull());  // indexing adds a default value
     COrxArrayTempl<int> keys;
     map.getDir(keys);
-    EXPECT_TRUE(keys.len() == 3 && keys[0] == 1 && keys[1] == 3 && keys[2] == 5);
+    EXPECT_EQ(keys.len(), 3);
+    EXPECT_EQ(keys[0], 1);
+    EXPECT_EQ(keys[1], 3);
+    EXPECT_EQ(keys[2], 5);
 
     int key = -1;
     COrxString value;
     COrxString* stored = nullptr;
     EXPECT_FALSE(map.getAtIndex(3, key, stored));
     EXPECT_FALSE(map.getAt(4, value));
-    EXPECT_TRUE(key == -1 && stored == nullptr && value.isNull());  // outputs untouched
+    EXPECT_EQ(key, -1);
+    EXPECT_EQ(stored, nullptr);
+    EXPECT_TRUE(value.isNull());  // outputs untouched
     EXPECT_TRUE(map.getAtIndex(2, key, value));
-    EXPECT_TRUE(key == 5 && value == L"FIVE");
+    EXPECT_EQ(key, 5);
+    EXPECT_EQ(value, L"FIVE");
     ASSERT_TRUE(map.getAt(1, stored));
     *stored = L"uno";
-    EXPECT_TRUE(map[1] == L"uno");
+    EXPECT_EQ(map[1], L"uno");
     EXPECT_TRUE(map.removeAt(3));
     EXPECT_FALSE(map.removeAt(3));
     EXPECT_FALSE(map.hasKey(3));
@@ -111,7 +117,9 @@ TEST(COrxMapTemplTest, BinarySearchAgreesWithALinearSearch) {
             } else {
                 COrxString value;
                 ASSERT_EQ(map.getAt(key, value), existed);
-                ASSERT_TRUE(!existed || value == text(found->second));
+                if (existed) {
+                    ASSERT_EQ(value, text(found->second));
+                }
             }
         }
         // As many keys, sorted and unique, and each key of the range present as expected.
@@ -135,13 +143,13 @@ TEST(COrxMapTemplTest, StringKeysTellNullFromEmpty) {
     map.setAt(L"a", L"1");
     COrxString value;
     EXPECT_TRUE(map.getAt(COrxString(), value));
-    EXPECT_TRUE(value == L"null");
+    EXPECT_EQ(value, L"null");
     COrxArrayTempl<COrxString> keys;
     map.getDir(keys);
     ASSERT_EQ(keys.len(), 4ul);
     EXPECT_TRUE(keys[0].isNull());
-    EXPECT_TRUE(keys[1] == L"");
-    EXPECT_TRUE(keys[2] == L"a");
+    EXPECT_EQ(keys[1], L"");
+    EXPECT_EQ(keys[2], L"a");
     EXPECT_TRUE(map.removeAt(COrxString()));
     EXPECT_TRUE(map.hasKey(COrxString(L"")));
 }

@@ -7,31 +7,31 @@
 #include <random>
 
 TEST(NumberTextTest, DecimalModeGivesTheDigitsAfterThePoint) {
-    EXPECT_TRUE(orxRtoS(20180315.143005, Orx::lDecimal, 8) == L"20180315.14300500");
-    EXPECT_TRUE(orxRtoS(-2.5, Orx::lDecimal, 2) == L"-2.50");
-    EXPECT_TRUE(orxRtoS(2.675, Orx::lDecimal, 2) == L"2.67");  // the binary value rounds
-    EXPECT_TRUE(orxRtoS(1.5, Orx::lDecimal, 0) == L"2");
-    EXPECT_TRUE(orxRtoS(-1e-12, Orx::lDecimal, 4) == L"0.0000");
-    EXPECT_TRUE(orxRtoS(3.0, Orx::lDecimal, -3) == L"3");
-    EXPECT_TRUE(orxRtoS(0.1, Orx::lDecimal, 99) == L"0.10000000000000000555");
+    EXPECT_EQ(orxRtoS(20180315.143005, Orx::lDecimal, 8), L"20180315.14300500");
+    EXPECT_EQ(orxRtoS(-2.5, Orx::lDecimal, 2), L"-2.50");
+    EXPECT_EQ(orxRtoS(2.675, Orx::lDecimal, 2), L"2.67");  // the binary value rounds
+    EXPECT_EQ(orxRtoS(1.5, Orx::lDecimal, 0), L"2");
+    EXPECT_EQ(orxRtoS(-1e-12, Orx::lDecimal, 4), L"0.0000");
+    EXPECT_EQ(orxRtoS(3.0, Orx::lDecimal, -3), L"3");
+    EXPECT_EQ(orxRtoS(0.1, Orx::lDecimal, 99), L"0.10000000000000000555");
 }
 
 TEST(NumberTextTest, FeetAndFractionsCarryAndRound) {
-    EXPECT_TRUE(orxRtoS(15.5, Orx::lScientific, 4) == L"1.5500E+01");
-    EXPECT_TRUE(orxRtoS(-1e-9, Orx::lScientific, 1) == L"-1.0E-09");
-    EXPECT_TRUE(orxRtoS(-0.0, Orx::lScientific, 1) == L"0.0E+00");
-    EXPECT_TRUE(orxRtoS(15.5, Orx::lEngineering, 2) == L"1'-3.50\"");
-    EXPECT_TRUE(orxRtoS(-15.5, Orx::lEngineering, 1) == L"-1'-3.5\"");
-    EXPECT_TRUE(orxRtoS(23.999, Orx::lEngineering, 2) == L"2'-0.00\"");  // carried
-    EXPECT_TRUE(orxRtoS(3.25, Orx::lEngineering, 2) == L"0'-3.25\"");
-    EXPECT_TRUE(orxRtoS(15.5, Orx::lArchitectural, 4) == L"1'-3 1/2\"");
-    EXPECT_TRUE(orxRtoS(12.0, Orx::lArchitectural, 4) == L"1'-0\"");
-    EXPECT_TRUE(orxRtoS(0.3, Orx::lArchitectural, 3) == L"0'-0 1/4\"");
-    EXPECT_TRUE(orxRtoS(-23.97, Orx::lArchitectural, 2) == L"-2'-0\"");
-    EXPECT_TRUE(orxRtoS(15.5, Orx::lFractional, 4) == L"15 1/2");
-    EXPECT_TRUE(orxRtoS(-0.75, Orx::lFractional, 4) == L"-3/4");
-    EXPECT_TRUE(orxRtoS(-0.01, Orx::lFractional, 2) == L"0");
-    EXPECT_TRUE(orxRtoS(2.2, Orx::lFractional, 0) == L"2");
+    EXPECT_EQ(orxRtoS(15.5, Orx::lScientific, 4), L"1.5500E+01");
+    EXPECT_EQ(orxRtoS(-1e-9, Orx::lScientific, 1), L"-1.0E-09");
+    EXPECT_EQ(orxRtoS(-0.0, Orx::lScientific, 1), L"0.0E+00");
+    EXPECT_EQ(orxRtoS(15.5, Orx::lEngineering, 2), L"1'-3.50\"");
+    EXPECT_EQ(orxRtoS(-15.5, Orx::lEngineering, 1), L"-1'-3.5\"");
+    EXPECT_EQ(orxRtoS(23.999, Orx::lEngineering, 2), L"2'-0.00\"");  // carried
+    EXPECT_EQ(orxRtoS(3.25, Orx::lEngineering, 2), L"0'-3.25\"");
+    EXPECT_EQ(orxRtoS(15.5, Orx::lArchitectural, 4), L"1'-3 1/2\"");
+    EXPECT_EQ(orxRtoS(12.0, Orx::lArchitectural, 4), L"1'-0\"");
+    EXPECT_EQ(orxRtoS(0.3, Orx::lArchitectural, 3), L"0'-0 1/4\"");
+    EXPECT_EQ(orxRtoS(-23.97, Orx::lArchitectural, 2), L"-2'-0\"");
+    EXPECT_EQ(orxRtoS(15.5, Orx::lFractional, 4), L"15 1/2");
+    EXPECT_EQ(orxRtoS(-0.75, Orx::lFractional, 4), L"-3/4");
+    EXPECT_EQ(orxRtoS(-0.01, Orx::lFractional, 2), L"0");
+    EXPECT_EQ(orxRtoS(2.2, Orx::lFractional, 0), L"2");
 }
 
 TEST(NumberTextTest, BadInputGivesTheNullString) {

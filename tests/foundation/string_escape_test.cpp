@@ -46,30 +46,28 @@ void setTestVariable() {
 TEST(COrxStringEscapeTest, BackslashEscapes) {
     COrxString s(L"a\\b\tc\nd\re\x01\x1f\x7f\a\b\f\v\u00e4");
     s.escape();
-    EXPECT_TRUE(s == L"a\\\\b\\tc\\nd\\re\\x01\\x1f\\x7f\\a\\b\\f\\v\u00e4");
+    EXPECT_EQ(s, L"a\\\\b\\tc\\nd\\re\\x01\\x1f\\x7f\\a\\b\\f\\v\u00e4");
     s.unEscape();
-    EXPECT_TRUE(s == L"a\\b\tc\nd\re\x01\x1f\x7f\a\b\f\v\u00e4");
+    EXPECT_EQ(s, L"a\\b\tc\nd\re\x01\x1f\x7f\a\b\f\v\u00e4");
     // Sequences that escape() never writes are kept as written.
-    EXPECT_TRUE(COrxString(L"\\q \\x4 \\x00 \\xg1 end\\").unEscape() ==
-                L"\\q \\x4 \\x00 \\xg1 end\\");
-    EXPECT_TRUE(COrxString(L"\\x41\\X41\\x4a").unEscape() == L"A\\X41J");
+    EXPECT_EQ(COrxString(L"\\q \\x4 \\x00 \\xg1 end\\").unEscape(), L"\\q \\x4 \\x00 \\xg1 end\\");
+    EXPECT_EQ(COrxString(L"\\x41\\X41\\x4a").unEscape(), L"A\\X41J");
     EXPECT_TRUE(COrxString().escape().isNull());
 }
 
 TEST(COrxStringEscapeTest, HtmlReferences) {
-    EXPECT_TRUE(COrxString(L"<a href=\"x\">&'</a>").escapeHtmlSpecial() ==
-                L"&lt;a href=&quot;x&quot;&gt;&amp;&#39;&lt;/a&gt;");
-    EXPECT_TRUE(COrxString(L"\u00e4\n<\U0001F600").escapeHtml(L"\n") ==
-                L"&#228;&#10;&lt;&#128512;");
-    EXPECT_TRUE(COrxString(L"plain").escapeHtml(nullptr) == L"plain");
-    EXPECT_TRUE(COrxString(L"&amp;lt; &#x41;&#65;&euro;&nbsp;&szlig;&#128512;").unEscapeHtml() ==
-                L"&lt; AA\u20ac\u00a0\u00df\U0001F600");
+    EXPECT_EQ(COrxString(L"<a href=\"x\">&'</a>").escapeHtmlSpecial(),
+              L"&lt;a href=&quot;x&quot;&gt;&amp;&#39;&lt;/a&gt;");
+    EXPECT_EQ(COrxString(L"\u00e4\n<\U0001F600").escapeHtml(L"\n"), L"&#228;&#10;&lt;&#128512;");
+    EXPECT_EQ(COrxString(L"plain").escapeHtml(nullptr), L"plain");
+    EXPECT_EQ(COrxString(L"&amp;lt; &#x41;&#65;&euro;&nbsp;&szlig;&#128512;").unEscapeHtml(),
+              L"&lt; AA\u20ac\u00a0\u00df\U0001F600");
     // Not references: kept as written.
     wchar_t const* const kept[] = {L"&foo;", L"&#;",           L"& text;", L"&#1114112;",
                                    L"&#x;",  L"&#12a;",        L"&amp",    L"&",
                                    L"&#0;",  L"&verylongname;"};
     for (wchar_t const* text : kept) {
-        EXPECT_TRUE(COrxString(text).unEscapeHtml() == text);
+        EXPECT_EQ(COrxString(text).unEscapeHtml(), text);
     }
 }
 
@@ -77,11 +75,11 @@ TEST(COrxStringEscapeTest, WideCharacterEscapes) {
     COrxString s(L"Gr\u00fc\u00dfe \u20ac \U0001F600 \\U+0041 \\x");
     s.escapeWideChar();
     // The same text on both platforms: one escape per UTF-16 code unit.
-    EXPECT_TRUE(s == L"Gr\\U+00fc\\U+00dfe \\U+20ac \\U+d83d\\U+de00 \\U+005cU+0041 \\x");
+    EXPECT_EQ(s, L"Gr\\U+00fc\\U+00dfe \\U+20ac \\U+d83d\\U+de00 \\U+005cU+0041 \\x");
     s.unEscapeWideChar();
-    EXPECT_TRUE(s == L"Gr\u00fc\u00dfe \u20ac \U0001F600 \\U+0041 \\x");
-    EXPECT_TRUE(COrxString(L"\\U+00FC\\U+00f \\U+\\U+zzzz").unEscapeWideChar() ==
-                L"\u00fc\\U+00f \\U+\\U+zzzz");
+    EXPECT_EQ(s, L"Gr\u00fc\u00dfe \u20ac \U0001F600 \\U+0041 \\x");
+    EXPECT_EQ(COrxString(L"\\U+00FC\\U+00f \\U+\\U+zzzz").unEscapeWideChar(),
+              L"\u00fc\\U+00f \\U+\\U+zzzz");
 }
 
 TEST(COrxStringEscapeTest, EveryEscapeRoundTripsOnRandomTexts) {
@@ -89,11 +87,11 @@ TEST(COrxStringEscapeTest, EveryEscapeRoundTripsOnRandomTexts) {
     for (int round = 0; round < 500; ++round) {
         std::wstring const text = randomText(random);
         COrxString const original(text.c_str());
-        EXPECT_TRUE(COrxString(original).escape().unEscape() == original);
-        EXPECT_TRUE(COrxString(original).escapeHtmlSpecial().unEscapeHtml() == original);
-        EXPECT_TRUE(COrxString(original).escapeHtml(L"\t\n").unEscapeHtml() == original);
+        EXPECT_EQ(COrxString(original).escape().unEscape(), original);
+        EXPECT_EQ(COrxString(original).escapeHtmlSpecial().unEscapeHtml(), original);
+        EXPECT_EQ(COrxString(original).escapeHtml(L"\t\n").unEscapeHtml(), original);
         COrxString ascii(original);
-        EXPECT_TRUE(COrxString(ascii.escapeWideChar()).unEscapeWideChar() == original);
+        EXPECT_EQ(COrxString(ascii.escapeWideChar()).unEscapeWideChar(), original);
         for (int k = 0; k < ascii.len(); ++k) {
             EXPECT_LT(static_cast<unsigned>(ascii[k]), 0x80u);  // nothing outside ASCII
         }
@@ -106,7 +104,7 @@ TEST(COrxStringEscapeTest, EnvironmentReferencesExpandAndUnknownOnesStay) {
         L"x%ORX_TEST_EXPAND%y|%orx_test_expand%|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|"
         L"100%|%%|%");
     s.expandEnvironmentStrings();
-    EXPECT_TRUE(s == L"xW\u00e4rmey|W\u00e4rme|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|100%|%%|%");
+    EXPECT_EQ(s, L"xW\u00e4rmey|W\u00e4rme|%ORX_TEST_UNDEFINED%ORX_TEST_EXPAND%|100%|%%|%");
     EXPECT_TRUE(COrxString().expandEnvironmentStrings().isNull());
-    EXPECT_TRUE(COrxString(L"").expandEnvironmentStrings() == L"");
+    EXPECT_EQ(COrxString(L"").expandEnvironmentStrings(), L"");
 }

@@ -111,6 +111,6 @@ TEST(COrxStringFormatTest, AResultBeyondTheLargestStringIsMeasuredNotMade) {
 TEST(COrxStringFormatTest, NullFormatGivesTheNullString) {
     COrxString s(L"before");
     EXPECT_TRUE(s.format(nullptr).isNull());
-    EXPECT_TRUE(s.format(L"").len() == 0);
+    EXPECT_EQ(s.format(L"").len(), 0);
     EXPECT_FALSE(s.isNull());
 }

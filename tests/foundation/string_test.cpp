@@ -14,15 +14,15 @@ TEST(COrxStringTest, NullAndEmptyAreEqualInOrderButNotInEquality) {
     COrxString const empty(L"");
     EXPECT_TRUE(none.isNull());
     EXPECT_FALSE(empty.isNull());
-    EXPECT_TRUE(none == COrxString::kNull);
+    EXPECT_EQ(none, COrxString::kNull);
     EXPECT_FALSE(none == empty);
     EXPECT_FALSE(none < empty);
     EXPECT_FALSE(empty < none);
-    EXPECT_TRUE(none <= empty);
-    EXPECT_TRUE(none >= empty);
-    EXPECT_TRUE(none == kNoText);
+    EXPECT_LE(none, empty);
+    EXPECT_GE(none, empty);
+    EXPECT_EQ(none, kNoText);
     EXPECT_FALSE(none == L"");
-    EXPECT_TRUE(static_cast<wchar_t const*>(none) == nullptr);
+    EXPECT_EQ(static_cast<wchar_t const*>(none), nullptr);
 
     // Copies and assignments keep the distinction.
     COrxString copy(empty);
@@ -36,13 +36,13 @@ TEST(COrxStringTest, NullAndEmptyAreEqualInOrderButNotInEquality) {
 
 TEST(COrxStringTest, ComparisonIsByCharacterCode) {
     COrxString const abc(L"abc");
-    EXPECT_TRUE(L"abc" == abc);
+    EXPECT_EQ(L"abc", abc);
     EXPECT_FALSE(abc == L"ABC");
-    EXPECT_TRUE(abc < L"abd");
-    EXPECT_TRUE(abc < L"abcd");
-    EXPECT_TRUE(abc > kNoText);
+    EXPECT_LT(abc, L"abd");
+    EXPECT_LT(abc, L"abcd");
+    EXPECT_GT(abc, kNoText);
     wchar_t const high[] = {static_cast<wchar_t>(0xE9), 0};
-    EXPECT_TRUE(abc < high);  // codes compare unsigned on both platforms
+    EXPECT_LT(abc, high);  // codes compare unsigned on both platforms
 }
 
 TEST(COrxStringTest, IndexesCountFromTheEndAndPastTheEndGiveZero) {
@@ -57,12 +57,12 @@ TEST(COrxStringTest, IndexesCountFromTheEndAndPastTheEndGiveZero) {
 TEST(COrxStringTest, SetAtStoresAndKeepsTheLength) {
     COrxString s(L"abc");
     s.setAt(-1, L'z').setAt(3, L'!');
-    EXPECT_TRUE(s == L"abz!");
+    EXPECT_EQ(s, L"abz!");
     s.setAt(1, 0);
     EXPECT_EQ(s.len(), 1);
     s.setAt(40, L'q');  // past the end: the text still ends at its terminator
-    EXPECT_TRUE(s == L"a");
-    EXPECT_TRUE(COrxString().setAt(0, L'k') == L"k");
+    EXPECT_EQ(s, L"a");
+    EXPECT_EQ(COrxString().setAt(0, L'k'), L"k");
 }
 
 TEST(COrxStringTest, BufferStartsAt16DoublesAndNeverShrinks) {
@@ -81,7 +81,7 @@ TEST(COrxStringTest, BufferStartsAt16DoublesAndNeverShrinks) {
     s.trim();
     EXPECT_EQ(s.GetBuffer(0), second);  // never shrinks
     s.ReleaseBuffer();
-    EXPECT_TRUE(s == L"short");
+    EXPECT_EQ(s, L"short");
 }
 
 TEST(COrxStringTest, GetBufferSuspendsTheLengthUntilReleased) {
@@ -90,7 +90,7 @@ TEST(COrxStringTest, GetBufferSuspendsTheLengthUntilReleased) {
     std::wcscpy(buffer, L"written by the caller");
     EXPECT_EQ(s.len(), 21);  // counted while suspended
     s += L"!";
-    EXPECT_TRUE(s == L"written by the caller!");
+    EXPECT_EQ(s, L"written by the caller!");
     buffer = s.GetBuffer(10);
     buffer[3] = 0;
     s.ReleaseBuffer();
@@ -105,7 +105,7 @@ TEST(COrxStringTest, GetBufferSuspendsTheLengthUntilReleased) {
 TEST(COrxStringTest, AppendingIsSafeWhenTheTextIsTheStringItself) {
     COrxString s(L"abc");
     s += s;
-    EXPECT_TRUE(s == L"abcabc");
+    EXPECT_EQ(s, L"abcabc");
     for (int k = 0; k < 5; ++k) {
         s += s;  // grows through several reallocations
     }
@@ -114,11 +114,11 @@ TEST(COrxStringTest, AppendingIsSafeWhenTheTextIsTheStringItself) {
 
     COrxString t(L"0123456789abcdef");  // exactly at capacity: the next append moves it
     t += static_cast<wchar_t const*>(t) + 10;
-    EXPECT_TRUE(t == L"0123456789abcdefabcdef");
+    EXPECT_EQ(t, L"0123456789abcdefabcdef");
     t = static_cast<wchar_t const*>(t) + 16;  // assigning its own tail
-    EXPECT_TRUE(t == L"abcdef");
+    EXPECT_EQ(t, L"abcdef");
     t.insertAt(3, static_cast<wchar_t const*>(t));
-    EXPECT_TRUE(t == L"abcabcdefdef");
+    EXPECT_EQ(t, L"abcabcdefdef");
 }
 
 TEST(COrxStringTest, AppendingNothingKeepsTheNullString) {
@@ -129,45 +129,45 @@ TEST(COrxStringTest, AppendingNothingKeepsTheNullString) {
     EXPECT_TRUE(s.isNull());
     s += L"";
     EXPECT_FALSE(s.isNull());
-    EXPECT_TRUE(L"<" + (s + L'a') + COrxString(L"b") == L"<ab");
+    EXPECT_EQ(L"<" + (s + L'a') + COrxString(L"b"), L"<ab");
     EXPECT_TRUE((kNoText + COrxString()).isNull());
 }
 
 TEST(COrxStringTest, InsertLeftRightMid) {
     COrxString s(L"held");
     s.insertAt(2, L"LLO WOR").insertAt(11, L'!');
-    EXPECT_TRUE(s == L"heLLO WORld!");
+    EXPECT_EQ(s, L"heLLO WORld!");
     s.insertAt(13, L"beyond").insertAt(0, kNoText);
-    EXPECT_TRUE(s == L"heLLO WORld!");
+    EXPECT_EQ(s, L"heLLO WORld!");
 
     COrxString const t(L"abcdef");
-    EXPECT_TRUE(t.left(99) == L"abcdef");
-    EXPECT_TRUE(t.right(2) == L"ef");
-    EXPECT_TRUE(t.mid(2, 3) == L"cde");
-    EXPECT_TRUE(t.mid(4, 99) == L"ef");
-    EXPECT_TRUE(t.mid(6, 1) == L"");  // empty, not null
+    EXPECT_EQ(t.left(99), L"abcdef");
+    EXPECT_EQ(t.right(2), L"ef");
+    EXPECT_EQ(t.mid(2, 3), L"cde");
+    EXPECT_EQ(t.mid(4, 99), L"ef");
+    EXPECT_EQ(t.mid(6, 1), L"");  // empty, not null
     EXPECT_TRUE(COrxString().mid(0, 3).isNull());
 }
 
 TEST(COrxStringTest, FillReplaceAndTrim) {
     COrxString n(L"42");
-    EXPECT_TRUE(n.lfill(5, L'0') == L"00042");
-    EXPECT_TRUE(n.lfill(3, L'0').rfill(7, L'.') == L"00042..");
-    EXPECT_TRUE(COrxString().rfill(2, L'-') == L"--");
+    EXPECT_EQ(n.lfill(5, L'0'), L"00042");
+    EXPECT_EQ(n.lfill(3, L'0').rfill(7, L'.'), L"00042..");
+    EXPECT_EQ(COrxString().rfill(2, L'-'), L"--");
 
     COrxString r(L"a--b--c");
-    EXPECT_TRUE(r.replace(L"--", L"+") == L"a+b+c");
-    EXPECT_TRUE(r.replace(L"+", L"").replace(L"b", kNoText) == L"ac");
-    EXPECT_TRUE(r.replace(L"", L"x").replace(L"zz", L"x") == L"ac");
-    EXPECT_TRUE(COrxString(L"aaaa").replace(L"aa", L"b") == L"bb");  // left to right
-    EXPECT_TRUE(COrxString(L"x.y").replace(L'.', L'/').replace(L"/", L"::") == L"x::y");
-    EXPECT_TRUE(COrxString(L"name=value").replace(L'=', 0) == L"name");
+    EXPECT_EQ(r.replace(L"--", L"+"), L"a+b+c");
+    EXPECT_EQ(r.replace(L"+", L"").replace(L"b", kNoText), L"ac");
+    EXPECT_EQ(r.replace(L"", L"x").replace(L"zz", L"x"), L"ac");
+    EXPECT_EQ(COrxString(L"aaaa").replace(L"aa", L"b"), L"bb");  // left to right
+    EXPECT_EQ(COrxString(L"x.y").replace(L'.', L'/').replace(L"/", L"::"), L"x::y");
+    EXPECT_EQ(COrxString(L"name=value").replace(L'=', 0), L"name");
 
     COrxString t(L" \t\r\n text \n\v");
-    EXPECT_TRUE(COrxString(t).trimRight() == t);  // \v is not trimmed
-    EXPECT_TRUE(COrxString(t).trimLeft() == L"text \n\v");
-    EXPECT_TRUE(COrxString(L"\f x \r\n").trim() == L"\f x");
-    EXPECT_TRUE(COrxString(L" \t ").trim() == L"");
+    EXPECT_EQ(COrxString(t).trimRight(), t);  // \v is not trimmed
+    EXPECT_EQ(COrxString(t).trimLeft(), L"text \n\v");
+    EXPECT_EQ(COrxString(L"\f x \r\n").trim(), L"\f x");
+    EXPECT_EQ(COrxString(L" \t ").trim(), L"");
     EXPECT_TRUE(COrxString().trim().isNull());
 }
 
@@ -175,25 +175,25 @@ TEST(COrxStringTest, CaseMappingCoversMoreThanAscii) {
     wchar_t const mixed[] = {L'a', L'B', 0xE9, 0xC4, 0xFF, 0x3B1, 0x430, 0xDF, L'1', 0};
     wchar_t const upper[] = {L'A', L'B', 0xC9, 0xC4, 0x178, 0x391, 0x410, 0xDF, L'1', 0};
     wchar_t const lower[] = {L'a', L'b', 0xE9, 0xE4, 0xFF, 0x3B1, 0x430, 0xDF, L'1', 0};
-    EXPECT_TRUE(COrxString(mixed).makeUpper() == upper);
-    EXPECT_TRUE(COrxString(mixed).makeLower() == lower);
+    EXPECT_EQ(COrxString(mixed).makeUpper(), upper);
+    EXPECT_EQ(COrxString(mixed).makeLower(), lower);
     EXPECT_TRUE(COrxString().makeUpper().isNull());
 }
 
 TEST(COrxStringTest, ReversalKeepsSurrogatePairsTogether) {
-    EXPECT_TRUE(COrxString(L"abc").reverse() == L"cba");
+    EXPECT_EQ(COrxString(L"abc").reverse(), L"cba");
     EXPECT_TRUE(COrxString().reverse().isNull());
     // U+1F600 between two letters: one character on both platforms.
     COrxString const face = COrxString().fromMultiByte("\xF0\x9F\x98\x80", 65001);
-    EXPECT_TRUE((L"a" + face + L'b').revert() == L"b" + face + L'a');
+    EXPECT_EQ((L"a" + face + L'b').revert(), L"b" + face + L'a');
 }
 
 TEST(COrxStringTest, QuoteAndUnquote) {
-    EXPECT_TRUE(COrxString(L"a b").quote() == L"\"a b\"");
-    EXPECT_TRUE(COrxString().quote() == L"\"\"");
-    EXPECT_TRUE(COrxString(L"\"a b\"").unQuote() == L"a b");
-    EXPECT_TRUE(COrxString(L"\"").unQuote() == L"\"");
-    EXPECT_TRUE(COrxString(L"\"\"x\"\"").unQuote() == L"\"x\"");  // one pair only
+    EXPECT_EQ(COrxString(L"a b").quote(), L"\"a b\"");
+    EXPECT_EQ(COrxString().quote(), L"\"\"");
+    EXPECT_EQ(COrxString(L"\"a b\"").unQuote(), L"a b");
+    EXPECT_EQ(COrxString(L"\"").unQuote(), L"\"");
+    EXPECT_EQ(COrxString(L"\"\"x\"\"").unQuote(), L"\"x\"");  // one pair only
 }
 
 TEST(COrxStringTest, FindGivesTheFirstIndexOrMinusOne) {
@@ -256,8 +256,8 @@ TEST(COrxStringTest, StringListsSortStablyButSearchByEquality) {
     list.append(COrxString(L""));
     list.sort();
     EXPECT_TRUE(list[0].isNull());  // null and empty are equal in order: the sort is stable
-    EXPECT_TRUE(list[1] == L"");
-    EXPECT_TRUE(list[2] == L"a");
+    EXPECT_EQ(list[1], L"");
+    EXPECT_EQ(list[2], L"a");
     EXPECT_EQ(list.indexOf(COrxString(L"")), 1);  // but equality tells them apart
     EXPECT_EQ(list.indexOf(COrxString()), 0);
 }

@@ -2,7 +2,6 @@
 // UUIDs.
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <set>
 #include <string>
 
@@ -11,19 +10,14 @@
 #include "orx/foundation/text_markers.h"
 #include "orx/foundation/text_markup.h"
 #include "orx/foundation/uuid.h"
+#include "tests/support/lists.h"
+
+using orx_test::list;
 
 namespace {
 
 std::wstring text(COrxString const& s) {
     return s.isNull() ? std::wstring(L"<null>") : std::wstring(s);
-}
-
-COrxArrayTempl<COrxString> list(std::initializer_list<wchar_t const*> items) {
-    COrxArrayTempl<COrxString> strings;
-    for (wchar_t const* item : items) {
-        strings.append(COrxString(item));
-    }
-    return strings;
 }
 
 }  // namespace
@@ -43,7 +37,7 @@ TEST(MarkupTest, HtmlSpecialCharsAndRtf) {
 
 TEST(MarkerTest, ListsClearsAndRemovesMarkers) {
     wchar_t const* const plate = L"<POS>: <PROFILE> <_x1> <POS> a < b <> <1st> <two words> <POS";
-    EXPECT_TRUE(ORX::getMarkerList(plate) == list({L"POS", L"PROFILE", L"_x1"}));
+    EXPECT_EQ(ORX::getMarkerList(plate), list({L"POS", L"PROFILE", L"_x1"}));
     EXPECT_TRUE(ORX::getMarkerList(nullptr).isEmpty());
 
     COrxString cleared(plate);
@@ -72,7 +66,7 @@ TEST(TxtListReplaceTest, ReplacesInOnePassLongestFirst) {
     EXPECT_EQ(text(filled), L"#>/12");
 
     COrxString untouched(L"abc");
-    EXPECT_EQ(ORX::txtListReplace(untouched, list({L"a"}), list({})), -1);
+    EXPECT_EQ(ORX::txtListReplace(untouched, list({L"a"}), COrxArrayTempl<COrxString>()), -1);
     EXPECT_EQ(ORX::txtListReplace(untouched, list({L"x"}), list({L"y"})), 0);
     EXPECT_EQ(text(untouched), L"abc");
 }
@@ -95,12 +89,12 @@ TEST(ParseTest, SplitsFieldsWithQuotes) {
     for (Case const& c : cases) {
         COrxArrayTempl<COrxString> fields;
         ASSERT_TRUE(ORX::parse(fields, c.line, c.sep)) << c.line;
-        EXPECT_TRUE(fields == list(c.fields)) << c.line;
+        EXPECT_EQ(fields, list(c.fields)) << c.line;
     }
     for (wchar_t const* bad : {L"\"open", L"\"a\"b,c", L"x,\"y"}) {
         COrxArrayTempl<COrxString> untouched = list({L"kept"});
         EXPECT_FALSE(ORX::parse(untouched, bad, L",")) << bad;
-        EXPECT_TRUE(untouched == list({L"kept"})) << bad;
+        EXPECT_EQ(untouched, list({L"kept"})) << bad;
     }
     COrxArrayTempl<COrxString> fields;
     EXPECT_FALSE(ORX::parse(fields, nullptr, L","));
@@ -146,8 +140,10 @@ TEST(HexTextTest, NumbersAndDumps) {
                          {L"00000000000000000001", 1}};
     for (Case const& c : good) {
         unsigned long long value = 7;
-        EXPECT_TRUE(ORX::xtol(c.text, value) && value == c.value) << c.text;
-        EXPECT_TRUE(ORX::xtol(ORX::ltox(c.value), value) && value == c.value) << c.text;
+        EXPECT_TRUE(ORX::xtol(c.text, value)) << c.text;
+        EXPECT_EQ(value, c.value) << c.text;
+        EXPECT_TRUE(ORX::xtol(ORX::ltox(c.value), value)) << c.text;
+        EXPECT_EQ(value, c.value) << c.text;
     }
     for (wchar_t const* bad : {L"", L"0x", L"  ", L"12g", L"-1", L"1 2", L"10000000000000000"}) {
         unsigned long long value = 7;
@@ -175,9 +171,11 @@ TEST(StrUuidCreateTest, IsARandomVersion4UuidInBraces) {
         EXPECT_EQ(id.back(), L'}');
         for (std::size_t i = 1; i < 37; ++i) {
             bool const dash = i == 9 || i == 14 || i == 19 || i == 24;
-            EXPECT_TRUE(dash ? id[i] == L'-'
-                             : std::wstring(L"0123456789ABCDEF").find(id[i]) != std::wstring::npos)
-                << id;
+            if (dash) {
+                EXPECT_EQ(id[i], L'-') << id;
+            } else {
+                EXPECT_NE(std::wstring(L"0123456789ABCDEF").find(id[i]), std::wstring::npos) << id;
+            }
         }
         EXPECT_EQ(id[15], L'4') << id;                                            // version
         EXPECT_NE(std::wstring(L"89AB").find(id[20]), std::wstring::npos) << id;  // variant

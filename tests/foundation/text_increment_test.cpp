@@ -89,5 +89,6 @@ TEST(StrIncrParseTest, SplitsStemDelimiterRunAndTail) {
     EXPECT_EQ(ORX::str_incr_type(nullptr), ORX::IncrType::none);
     EXPECT_EQ(text(ORX::str_incr_delimit(L"Plate")), L"");
     EXPECT_EQ(text(ORX::str_name(L"Plate")), L"Plate");
-    EXPECT_TRUE(ORX::str_name(nullptr).isNull() && ORX::str_incr_delimit(nullptr).isNull());
+    EXPECT_TRUE(ORX::str_name(nullptr).isNull());
+    EXPECT_TRUE(ORX::str_incr_delimit(nullptr).isNull());
 }

@@ -3,46 +3,37 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <initializer_list>
 
-namespace {
+#include "tests/support/lists.h"
 
-COrxArrayTempl<COrxString> list(std::initializer_list<wchar_t const*> items) {
-    COrxArrayTempl<COrxString> strings;
-    for (wchar_t const* item : items) {
-        strings.append(COrxString(item));
-    }
-    return strings;
-}
-
-}  // namespace
+using orx_test::list;
 
 TEST(TextTest, ImplodeJoinsWithTheSeparator) {
     EXPECT_TRUE(ORX::implode(COrxArrayTempl<COrxString>(), L",").isNull());
-    EXPECT_TRUE(ORX::implode(list({L"a", L"", L"b"}), L", ") == L"a, , b");
-    EXPECT_TRUE(ORX::implode(list({L"a", L"b"}), nullptr) == L"ab");
-    EXPECT_TRUE(ORX::implode(list({L"", L""}), L";") == L";");
+    EXPECT_EQ(ORX::implode(list({L"a", L"", L"b"}), L", "), L"a, , b");
+    EXPECT_EQ(ORX::implode(list({L"a", L"b"}), nullptr), L"ab");
+    EXPECT_EQ(ORX::implode(list({L"", L""}), L";"), L";");
 }
 
 TEST(TextTest, TokensDropOrKeepEmptyOnes) {
-    EXPECT_TRUE(ORX::explode(L"  a b,,c ", L" ,", false) == list({L"a", L"b", L"c"}));
-    EXPECT_TRUE(ORX::explode(L"a,,b,", L",", true) == list({L"a", L"", L"b", L""}));
-    EXPECT_TRUE(ORX::explode(L"", L",", true) == list({L""}));
+    EXPECT_EQ(ORX::explode(L"  a b,,c ", L" ,", false), list({L"a", L"b", L"c"}));
+    EXPECT_EQ(ORX::explode(L"a,,b,", L",", true), list({L"a", L"", L"b", L""}));
+    EXPECT_EQ(ORX::explode(L"", L",", true), list({L""}));
     EXPECT_TRUE(ORX::explode(L"", L",", false).isEmpty());
     EXPECT_TRUE(ORX::explode(L",,,", L",", false).isEmpty());
-    EXPECT_TRUE(ORX::explode(L"a b", L"", true) == list({L"a b"}));
+    EXPECT_EQ(ORX::explode(L"a b", L"", true), list({L"a b"}));
     EXPECT_TRUE(ORX::explode(nullptr, L",", true).isEmpty());
     EXPECT_FALSE(ORX::explode(L",x", L",", true)[0].isNull());  // empty, not null
 
     // strTok appends to what the list holds and counts what it added.
     COrxArrayTempl<COrxString> tokens = list({L"first"});
     EXPECT_EQ(ORX::strTok(tokens, L"x;y", L";", false), 2ul);
-    EXPECT_TRUE(tokens == list({L"first", L"x", L"y"}));
+    EXPECT_EQ(tokens, list({L"first", L"x", L"y"}));
 
     // With kept empties, implode undoes explode.
     wchar_t const* const texts[] = {L"", L",", L"a", L",a,,b,", L"a,b"};
     for (wchar_t const* text : texts) {
-        EXPECT_TRUE(ORX::implode(ORX::explode(text, L",", true), L",") == text);
+        EXPECT_EQ(ORX::implode(ORX::explode(text, L",", true), L","), text);
     }
 }
 

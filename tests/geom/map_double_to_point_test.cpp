@@ -27,7 +27,11 @@ TEST(CMapDoubleToPointTest, SortIsStableAndKeepsPairsWithoutAParameterLast) {
     COrxPoint3d p;
     for (int i = 0; i < 4; ++i) {
         ASSERT_TRUE(map.getAt(i, t, p));
-        EXPECT_TRUE(i == 3 ? std::isnan(t) : t == expectedT[i]) << i;
+        if (i == 3) {
+            EXPECT_TRUE(std::isnan(t)) << i;
+        } else {
+            EXPECT_EQ(t, expectedT[i]) << i;
+        }
         EXPECT_EQ(p, expectedP[i]) << i;
     }
 }
@@ -41,9 +45,13 @@ TEST(CMapDoubleToPointTest, BothListsStayPaired) {
     EXPECT_FALSE(map.insertAt(-1, 0.0, P));
     double t = 9;
     COrxPoint3d p(9, 9, 9);
-    EXPECT_FALSE(map.getAt(3, t, p) || map.getAt(-1, t, p));
-    EXPECT_TRUE(t == 9.0 && p == COrxPoint3d(9, 9, 9));
-    EXPECT_TRUE(map.getAt(1, t, p) && t == 2.0 && p == Q);
+    EXPECT_FALSE(map.getAt(3, t, p));
+    EXPECT_FALSE(map.getAt(-1, t, p));
+    EXPECT_EQ(t, 9.0);
+    EXPECT_EQ(p, COrxPoint3d(9, 9, 9));
+    EXPECT_TRUE(map.getAt(1, t, p));
+    EXPECT_EQ(t, 2.0);
+    EXPECT_EQ(p, Q);
 
     EXPECT_EQ(map.setLogicalLength(5), 5u);
     EXPECT_EQ(map.getPtLst()[4], COrxPoint3d::kOrigin);

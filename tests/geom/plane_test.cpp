@@ -33,8 +33,8 @@ TEST(COrxPlaneTest, TransformationKeepsTheNormalUnnormalized) {
     scale.setToScaling(2.0, COrxPoint3d::kOrigin);
     COrxPlane const plane =
         COrxPlane(COrxPoint3d(1, 0, 0), COrxVector3d(1, 0, 0)).getTransformedCopy(scale);
-    EXPECT_TRUE(plane.position() == COrxPoint3d(2, 0, 0) &&
-                plane.normal() == COrxVector3d(2, 0, 0));
+    EXPECT_EQ(plane.position(), COrxPoint3d(2, 0, 0));
+    EXPECT_EQ(plane.normal(), COrxVector3d(2, 0, 0));
 }
 
 TEST(COrxPlaneTest, LinesMeetThePlaneOrMissIt) {

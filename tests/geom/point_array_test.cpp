@@ -6,16 +6,11 @@
 #include <utility>
 
 #include "orx/geom/functions.h"
+#include "tests/support/lists.h"
+
+using orx_test::list;
 
 namespace {
-
-COrxPoint3dArray list(std::initializer_list<COrxPoint3d> points) {
-    COrxPoint3dArray pts;
-    for (COrxPoint3d const& p : points) {
-        pts.append(p);
-    }
-    return pts;
-}
 
 COrxPoint3d const A(1, 0, 0), B(2, 0, 0), C(3, 0, 0);
 
@@ -87,7 +82,8 @@ TEST(COrxPoint3dArrayTest, ExtentsSpanAllPoints) {
     EXPECT_FALSE(COrxPoint3dArray().extents(low, high));
     EXPECT_EQ(low, COrxPoint3d(7, 7, 7));
     ASSERT_TRUE(list({COrxPoint3d(1, 5, -2), COrxPoint3d(-3, 2, 4)}).extents(low, high));
-    EXPECT_TRUE(low == COrxPoint3d(-3, 2, -2) && high == COrxPoint3d(1, 5, 4));
+    EXPECT_EQ(low, COrxPoint3d(-3, 2, -2));
+    EXPECT_EQ(high, COrxPoint3d(1, 5, 4));
 }
 
 TEST(COrxPoint3dArrayTest, TransformationsMoveEveryPoint) {
@@ -105,8 +101,10 @@ TEST(COrxPoint3dArrayTest, SortAlongADirectionIsStableAfterRounding) {
     COrxPoint3dArray pts = list({COrxPoint3d(5, 0, 0), COrxPoint3d(1, 1e-6, 0),
                                  COrxPoint3d(1, 0, 0), COrxPoint3d(-2, 0, 0)});
     pts.sort(0.0);
-    EXPECT_TRUE(pts[0] == COrxPoint3d(-2, 0, 0) && pts[3] == COrxPoint3d(5, 0, 0));
-    EXPECT_TRUE(pts[1].y == 1e-6 && pts[2].y == 0.0);
+    EXPECT_EQ(pts[0], COrxPoint3d(-2, 0, 0));
+    EXPECT_EQ(pts[3], COrxPoint3d(5, 0, 0));
+    EXPECT_EQ(pts[1].y, 1e-6);
+    EXPECT_EQ(pts[2].y, 0.0);
     pts.sort(COrxVector3d(0, -1, 0));  // y up to 1e-6: all equal after rounding
     EXPECT_EQ(pts[1].y, 1e-6);
     // An unnormalised direction scales the projection before rounding.
@@ -116,5 +114,7 @@ TEST(COrxPoint3dArrayTest, SortAlongADirectionIsStableAfterRounding) {
     // NaN projections go last, in their order.
     COrxPoint3dArray odd = list({COrxPoint3d(ORX::nan(), 0, 0), B, A});
     odd.sort(0.0);
-    EXPECT_TRUE(odd[0] == A && odd[1] == B && std::isnan(odd[2].x));
+    EXPECT_EQ(odd[0], A);
+    EXPECT_EQ(odd[1], B);
+    EXPECT_TRUE(std::isnan(odd[2].x));
 }

@@ -4,18 +4,13 @@
 
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
+#include "tests/support/lists.h"
+
+using orx_test::list;
 
 namespace {
 
 using P = COrxPoint3d;
-
-COrxPoint3dArray list(std::initializer_list<P> points) {
-    COrxPoint3dArray pts;
-    for (P const& p : points) {
-        pts.append(p);
-    }
-    return pts;
-}
 
 // An L-shaped outline, counter-clockwise: a 4 x 1 bar with a 1 x 2 post on its left end.
 COrxPoint3dArray const kEll =
@@ -25,11 +20,15 @@ COrxPoint3dArray const kEll =
 
 TEST(PointListFunctionsTest, ExtremesOfAllPoints) {
     P high(7, 7, 7), low(7, 7, 7);
-    EXPECT_FALSE(ORX::g_pl_max(high, COrxPoint3dArray()) || ORX::g_pl_min(low, COrxPoint3dArray()));
-    EXPECT_TRUE(high == P(7, 7, 7) && low == P(7, 7, 7));
+    EXPECT_FALSE(ORX::g_pl_max(high, COrxPoint3dArray()));
+    EXPECT_FALSE(ORX::g_pl_min(low, COrxPoint3dArray()));
+    EXPECT_EQ(high, P(7, 7, 7));
+    EXPECT_EQ(low, P(7, 7, 7));
     COrxPoint3dArray const pts = list({P(1, -5, 2), P(-1, 3, 0)});
-    ASSERT_TRUE(ORX::g_pl_max(high, pts) && ORX::g_pl_min(low, pts));
-    EXPECT_TRUE(high == P(1, 3, 2) && low == P(-1, -5, 0));
+    ASSERT_TRUE(ORX::g_pl_max(high, pts));
+    ASSERT_TRUE(ORX::g_pl_min(low, pts));
+    EXPECT_EQ(high, P(1, 3, 2));
+    EXPECT_EQ(low, P(-1, -5, 0));
 }
 
 TEST(PointListFunctionsTest, OrientationSeenFromTheNormal) {
@@ -58,7 +57,8 @@ TEST(PointListFunctionsTest, FarthestPairAndEnclosingRectangle) {
     EXPECT_FALSE(ORX::g_pl_extmax(first, second, list({P(1, 1, 1)})));
     EXPECT_EQ(first, P(7, 7, 7));
     ASSERT_TRUE(ORX::g_pl_extmax(first, second, kEll));
-    EXPECT_TRUE(first == P(4, 0, 0) && second == P(0, 3, 0));
+    EXPECT_EQ(first, P(4, 0, 0));
+    EXPECT_EQ(second, P(0, 3, 0));
     COrxPoint3dArray rect;
     ASSERT_TRUE(ORX::g_pl_extrect(
         rect, kEll.getTransformedCopy(COrxMatrix3d().setToTranslation(COrxVector3d(0, 0, 2))),

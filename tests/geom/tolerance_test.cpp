@@ -8,7 +8,7 @@ TEST(COrxPoint3dTolTest, WidensForItsScopeAndRestoresEvenWhatOthersChanged) {
     double const shipped = COrxPoint3d::tol;
     {
         COrxPoint3dTol wide(0.01);
-        EXPECT_TRUE(COrxPoint3d(0, 0, 0) == COrxPoint3d(0.005, 0, 0));
+        EXPECT_EQ(COrxPoint3d(0, 0, 0), COrxPoint3d(0.005, 0, 0));
         COrxPoint3d::tol = 0.5;  // changed by someone else inside the scope
     }
     EXPECT_EQ(COrxPoint3d::tol, shipped);

@@ -49,7 +49,9 @@ TEST(UniquePointsTest, EqualsAppendUniqPointForPointAndInOrder) {
             COrxPoint3d const& b = filed[k];
             bool const same = (a.x == b.x || (std::isnan(a.x) && std::isnan(b.x))) &&
                               a.y == b.y && a.z == b.z;
-            EXPECT_TRUE(same) << "round " << round << ", point " << k;
+            EXPECT_TRUE(same) << "round " << round << ", point " << k << ": "
+                              << ::testing::PrintToString(a) << " against "
+                              << ::testing::PrintToString(b);
         }
     }
 }

@@ -8,7 +8,7 @@
 #include "orx/geom/functions.h"
 
 TEST(COrxVector3dTest, EqualityIsPerComponent) {
-    EXPECT_TRUE(COrxVector3d(1, 0, 0) == COrxVector3d(1 + 0.9e-07, 1e-07, -1e-07));
+    EXPECT_EQ(COrxVector3d(1, 0, 0), COrxVector3d(1 + 0.9e-07, 1e-07, -1e-07));
     EXPECT_FALSE(COrxVector3d(1, 0, 0) == COrxVector3d(1, 2e-07, 0));
 }
 

@@ -22,9 +22,12 @@ TEST(BulgesTest, BulgeFromAngles) {
 TEST(BulgesTest, RadiusSignSelectsTheArc) {
     P const p1(0, 0, 0), p2(6, 0, 0);
     double bulge = 99;
-    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, 5.0) && bulge == 1.0 / 3);
-    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, -5.0) && bulge == -3.0);
-    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, 0.0) && bulge == 0.0);
+    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, 5.0));
+    EXPECT_EQ(bulge, 1.0 / 3);
+    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, -5.0));
+    EXPECT_EQ(bulge, -3.0);
+    EXPECT_TRUE(ORX::g_arcrad_bulg(bulge, p1, p2, 0.0));
+    EXPECT_EQ(bulge, 0.0);
     bulge = 99;
     EXPECT_FALSE(ORX::g_arcrad_bulg(bulge, p1, p2, 2.0));
     EXPECT_FALSE(ORX::g_arcrad_bulg(bulge, p1, p1, 2.0));
@@ -82,7 +85,8 @@ TEST(BulgesTest, ArcThroughThreePoints) {
     EXPECT_FALSE(ORX::g_arc3p_bulg(O, P(1, 1 + 5e-6, 0), P(2, 2, 0), bulge));
     EXPECT_FALSE(ORX::g_arc3p_cen(O, P(3, 3, 0), O, centre));
     EXPECT_EQ(ORX::g_arc3p_orient(O, P(ORX::nan(), 0, 0), P(3, 3, 0), centre), 0);
-    EXPECT_TRUE(bulge == 9.0 && centre == P(9, 9, 9));
+    EXPECT_EQ(bulge, 9.0);
+    EXPECT_EQ(centre, P(9, 9, 9));
 }
 
 TEST(BulgesTest, PointOnArcIsTolerantAtTheEndsAndTheSeam) {

@@ -60,7 +60,9 @@ TEST(LinesTest, NearestAndFarthestPoint) {
 TEST(PointsTest, SmallPointFunctions) {
     EXPECT_EQ(ORX::g_dist2d(P(0, 0, 5), P(3, 4, -5)), 5.0);
     P const snapped = ORX::g_nrm_p(P(9e-6, -9e-6, 2e-5));
-    EXPECT_TRUE(snapped.x == 0.0 && snapped.y == 0.0 && snapped.z == 2e-5);
+    EXPECT_EQ(snapped.x, 0.0);
+    EXPECT_EQ(snapped.y, 0.0);
+    EXPECT_EQ(snapped.z, 2e-5);
     EXPECT_EQ(ORX::g_point_orient(O, P(1, 0, 0), P(2, 0, 0)), 1);  // collinear
     EXPECT_EQ(ORX::g_point_orient(O, P(1, 0, 0), P(1, -1, 0)), -1);
     EXPECT_DOUBLE_EQ(ORX::g_dist_w1(P(1, 1, 0), P(4, 5, 0), ORX::kPi), -3.0);

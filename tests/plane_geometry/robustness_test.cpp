@@ -42,17 +42,23 @@ TEST(PlaneGeometryRobustnessTest, NanInputGivesNan) {
 TEST(PlaneGeometryRobustnessTest, HugeAnglesStayInRangeAndNonFiniteOnesGiveNan) {
     for (double w : {1e308, 1e300, -1e300, 1e17, -4e15, 123456.789}) {
         double const y = ORX::g_ang(w);
-        EXPECT_TRUE(y >= 0.0 && y <= ORX::kTwoPi) << w;
+        EXPECT_GE(y, 0.0) << w;
+        EXPECT_LE(y, ORX::kTwoPi) << w;
         EXPECT_LE(std::fabs(ORX::g_signed_ang(w)), ORX::kPi) << w;
         EXPECT_LT(ORX::g_dir_nrm(std::fabs(w)), ORX::kPi) << w;
-        EXPECT_TRUE(ORX::g_oktant(w) >= 0 && ORX::g_sextant(w) >= 0) << w;
-        EXPECT_FALSE(std::isnan(ORX::g_qw(w)) || std::isnan(ORX::g_rnd_quad(w))) << w;
+        EXPECT_GE(ORX::g_oktant(w), 0) << w;
+        EXPECT_GE(ORX::g_sextant(w), 0) << w;
+        EXPECT_FALSE(std::isnan(ORX::g_qw(w))) << w;
+        EXPECT_FALSE(std::isnan(ORX::g_rnd_quad(w))) << w;
     }
     for (double w : {ORX::nan(), inf, -inf}) {
-        EXPECT_TRUE(std::isnan(ORX::g_ang(w)) && std::isnan(ORX::g_signed_ang(w))) << w;
-        EXPECT_TRUE(std::isnan(ORX::g_dir_nrm(w)) && std::isnan(ORX::g_rnd_quad(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_ang(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_signed_ang(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_dir_nrm(w))) << w;
+        EXPECT_TRUE(std::isnan(ORX::g_rnd_quad(w))) << w;
         EXPECT_TRUE(std::isnan(ORX::g_qw(w))) << w;
-        EXPECT_TRUE(ORX::g_oktant(w) == -1 && ORX::g_sextant(w) == -1) << w;
+        EXPECT_EQ(ORX::g_oktant(w), -1) << w;
+        EXPECT_EQ(ORX::g_sextant(w), -1) << w;
         EXPECT_FALSE(ORX::g_ang_equal(w, 0.0, 1.0)) << w;
     }
 }

@@ -29,9 +29,12 @@ TEST(TangentsTest, ProfileFormulas) {
 TEST(TangentsTest, CirclesTouchingTwoCircles) {
     COrxPoint3dArray pts;
     ASSERT_TRUE(ORX::g_tang2_cen(pts, O, 2, P(8, 0, 0), 2, 3));
-    EXPECT_TRUE(pts.len() == 2 && pts[0] == P(4, 3, 0) && pts[1] == P(4, -3, 0));
+    EXPECT_EQ(pts.len(), 2);
+    EXPECT_EQ(pts[0], P(4, 3, 0));
+    EXPECT_EQ(pts[1], P(4, -3, 0));
     ASSERT_TRUE(ORX::g_tang2_cen(pts, O, 2, P(8, 0, 0), 2, 2));
-    EXPECT_TRUE(pts.len() == 1 && pts[0] == P(4, 0, 0));  // the gap is one diameter wide
+    EXPECT_EQ(pts.len(), 1);
+    EXPECT_EQ(pts[0], P(4, 0, 0));  // the gap is one diameter wide
     EXPECT_FALSE(ORX::g_tang2_cen(pts, O, 2, P(8, 0, 0), 2, 1));
     EXPECT_FALSE(ORX::g_tang2_cen(pts, O, 2, P(8, 0, 0), 2, 0));
     P centre(9, 9, 9);
@@ -77,7 +80,9 @@ TEST(TangentsTest, FilletCentreAndTangentsFromAPoint) {
     ASSERT_TRUE(ORX::g_nm_pkt_tan(pts, P(0, 10, 0), O, 5));
     // 30 degrees either side of the direction to p, a + g first.
     double const h = 5 * std::sqrt(0.75);
-    EXPECT_TRUE(pts.len() == 2 && pts[0] == P(-h, 2.5, 0) && pts[1] == P(h, 2.5, 0));
+    EXPECT_EQ(pts.len(), 2);
+    EXPECT_EQ(pts[0], P(-h, 2.5, 0));
+    EXPECT_EQ(pts[1], P(h, 2.5, 0));
     ASSERT_TRUE(ORX::g_nm_pkt_tan(pts, P(0, 5, 0), O, 5));
     EXPECT_EQ(pts.len(), 1);  // p on the circle
     EXPECT_FALSE(ORX::g_nm_pkt_tan(pts, P(0, 1, 0), O, 5));

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "orx/plane_geometry/angles.h"
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 namespace {
 
@@ -130,13 +130,15 @@ TEST(CornersTest, OneCornerOfAPolyline) {
     EXPECT_FALSE(ORX::g_vl_fillet(vl, 3, 1));
     ASSERT_TRUE(ORX::g_vl_fillet(vl, -2, 10));  // uses both sides up to their far ends
     EXPECT_EQ(vl.len(), 2);
-    EXPECT_TRUE(vl[1].startPoint() == pt(10, 0) && vl[1].endPoint() == pt(0, 10));
+    EXPECT_EQ(vl[1].startPoint(), pt(10, 0));
+    EXPECT_EQ(vl[1].endPoint(), pt(0, 10));
     EXPECT_NEAR(vl[1].bulge(), kQuarter, 1e-12);
     // The closing corner of a closed polyline: the arc is appended.
     COrxVertexArray loop = polygon({pt(0, 0), pt(10, 0), pt(10, 10), pt(0, 10)});
     ASSERT_TRUE(ORX::g_vl_chamfer(loop, 3, 2));
     EXPECT_EQ(loop.len(), 5);
-    EXPECT_TRUE(loop[4].startPoint() == pt(0, 2) && loop[4].endPoint() == pt(2, 0));
+    EXPECT_EQ(loop[4].startPoint(), pt(0, 2));
+    EXPECT_EQ(loop[4].endPoint(), pt(2, 0));
     EXPECT_TRUE(loop.isClosed());
 }
 
@@ -149,8 +151,9 @@ TEST(CornersTest, ChamfersCutTheAskedDistances) {
         ASSERT_TRUE(ORX::g_vx_chamfer(s1, s2, d1, d2, cut));
         EXPECT_NEAR(c.s1.bulgLen() - s1.bulgLen(), d1, 1e-9);
         EXPECT_NEAR(c.s2.bulgLen() - s2.bulgLen(), d2, 1e-9);
-        EXPECT_TRUE(cut.isStraight() && cut.startPoint() == s1.endPoint() &&
-                    cut.endPoint() == s2.startPoint());
+        EXPECT_TRUE(cut.isStraight());
+        EXPECT_EQ(cut.startPoint(), s1.endPoint());
+        EXPECT_EQ(cut.endPoint(), s2.startPoint());
         EXPECT_NEAR(ORX::g_vx_lotd(c.s1, s1.endPoint()), 0, 1e-9);
     }
     COrxVertexArray square = polygon({pt(0, 0), pt(4, 0), pt(4, 4), pt(0, 4)});
@@ -180,7 +183,9 @@ TEST(CornersTest, WhatCannotBeCutLeavesEverythingAsItWas) {
         COrxVertex s1(line), s2(b.first), piece(pt(7, 7), pt(8, 8), 0.0);
         EXPECT_FALSE(ORX::g_vx_fillet(s1, s2, b.second, piece)) << b.second;
         EXPECT_FALSE(ORX::g_vx_chamfer(s1, s2, b.second, 1.0, piece)) << b.second;
-        EXPECT_TRUE(s1 == line && s2 == b.first && piece == COrxVertex(pt(7, 7), pt(8, 8), 0.0));
+        EXPECT_EQ(s1, line);
+        EXPECT_EQ(s2, b.first);
+        EXPECT_EQ(piece, COrxVertex(pt(7, 7), pt(8, 8), 0.0));
     }
     COrxVertexArray vl = polygon({pt(0, 0), pt(10, 0), pt(10, 3), pt(0, 3)});
     COrxVertexArray const before(vl);

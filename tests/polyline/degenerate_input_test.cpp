@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -170,7 +170,9 @@ TEST(DegenerateInputTest, OddSegmentsThroughPropertiesCornersAndSplits) {
         double area = 0, ix = 0, iy = 0, ixy = 0;
         COrxPoint3d c;
         if (ORX::g_vl_statics(loop, area, c, ix, iy, ixy)) {
-            EXPECT_TRUE(std::isfinite(area + ix + iy + ixy) && area > 0 && c.isValid());
+            EXPECT_TRUE(std::isfinite(area + ix + iy + ixy));
+            EXPECT_GT(area, 0);
+            EXPECT_TRUE(c.isValid());
         }
         COrxVertexArray edited(loop);
         ORX::g_vl_fillet_all(edited, 0.1);

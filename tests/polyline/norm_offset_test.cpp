@@ -1,23 +1,9 @@
 // Normalising and offsetting whole polylines.
 #include <gtest/gtest.h>
 
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
-
-namespace {
-
-// A counter-clockwise square of side `side` whose corners are rounded with radius r, starting
-// on the bottom edge.
-COrxVertexArray roundedSquare(double s, double r) {
-    COrxVertexArray vl(COrxVertex(pt(r, 0), pt(s - r, 0), 0.0));
-    vl.append(pt(s, r), kQuarter).append(pt(s, s - r), 0.0);
-    vl.append(pt(s - r, s), kQuarter).append(pt(r, s), 0.0);
-    vl.append(pt(0, s - r), kQuarter).append(pt(0, r), 0.0);
-    return vl.append(pt(r, 0), kQuarter);
-}
-
-}  // namespace
 
 TEST(NormTest, MergesACollinearRunAcrossTheSeam) {
     // The bottom edge is split at (1, 0) and the polyline starts in its middle.
@@ -78,19 +64,19 @@ TEST(NormTest, NeverErasesACircleMadeOfArcs) {
 
 TEST(OffsetTest, RoundedSquareOutwardsAndInwards) {
     double const side = 10, r = 2;
-    COrxVertexArray out = roundedSquare(side, r);
+    COrxVertexArray out = roundedRectangle(0, 0, side, side, r);
     out.offset(1.0, false);  // right of a counter-clockwise outline is outside
     EXPECT_TRUE(out.isClosed());
     EXPECT_EQ(out.len(), 8);
     EXPECT_NEAR(out.geomLength(), 4 * (side - 2 * r) + ORX::kTwoPi * (r + 1), 1e-9);
 
-    COrxVertexArray in = roundedSquare(side, r);
+    COrxVertexArray in = roundedRectangle(0, 0, side, side, r);
     in.offset(-1.0, false);
     EXPECT_TRUE(in.isClosed());
     EXPECT_NEAR(in.geomLength(), 4 * (side - 2 * r) + ORX::kTwoPi * (r - 1), 1e-9);
 
     // Deeper than the corner radius: the arcs collapse and the edges meet in sharp corners.
-    COrxVertexArray deep = roundedSquare(side, r);
+    COrxVertexArray deep = roundedRectangle(0, 0, side, side, r);
     deep.offset(-3.0, false);
     EXPECT_TRUE(deep.isClosed());
     ASSERT_EQ(deep.len(), 4);

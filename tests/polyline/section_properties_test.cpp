@@ -11,7 +11,7 @@
 
 #include "orx/geom/point_list_functions.h"
 #include "orx/profiles/outline.h"
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 namespace {
 
@@ -234,13 +234,15 @@ TEST(SectionPropertiesTest, PrincipalMomentsGyrationAndModuli) {
     EXPECT_NEAR(i2, b * h * h * h / 12, 1e-12);
     EXPECT_NEAR(angle, w + kPi / 2 - kPi, 1e-12);  // the axis about which i1 is taken: across
     ORX::g_statics_principal(1, 1, 0, i1, i2, angle);
-    EXPECT_TRUE(i1 == 1 && i2 == 1 && angle == 0);
+    EXPECT_EQ(i1, 1);
+    EXPECT_EQ(i2, 1);
+    EXPECT_EQ(angle, 0);
     ORX::g_statics_principal(1, 2, -0.0, i1, i2, angle);
     EXPECT_EQ(angle, kPi / 2);
 
     double rx = -1, ry = -1;
-    EXPECT_FALSE(ORX::g_statics_gyration(0, 1, 1, rx, ry) ||
-                 ORX::g_statics_gyration(1, -1, 1, rx, ry));
+    EXPECT_FALSE(ORX::g_statics_gyration(0, 1, 1, rx, ry));
+    EXPECT_FALSE(ORX::g_statics_gyration(1, -1, 1, rx, ry));
     ASSERT_TRUE(ORX::g_statics_gyration(b * h, b * h * h * h / 12, h * b * b * b / 12, rx, ry));
     EXPECT_NEAR(rx, h / std::sqrt(12.0), 1e-15);
     EXPECT_NEAR(ry, b / std::sqrt(12.0), 1e-15);
@@ -250,7 +252,10 @@ TEST(SectionPropertiesTest, PrincipalMomentsGyrationAndModuli) {
     double top, bottom, right, left;
     ASSERT_TRUE(
         ORX::g_statics_moduli(pt(0, c), 1, 2, pt(-r, 0), pt(r, r), top, bottom, right, left));
-    EXPECT_TRUE(top == 1 / (r - c) && bottom == 1 / c && right == 2 / r && left == 2 / r);
+    EXPECT_EQ(top, 1 / (r - c));
+    EXPECT_EQ(bottom, 1 / c);
+    EXPECT_EQ(right, 2 / r);
+    EXPECT_EQ(left, 2 / r);
     EXPECT_FALSE(
         ORX::g_statics_moduli(pt(0, -1), 1, 2, pt(-r, 0), pt(r, r), top, bottom, right, left));
 }
@@ -270,7 +275,11 @@ TEST(SectionPropertiesTest, OpenDegenerateOrNotFiniteOutlinesFail) {
         double area = 7, ix = 7, iy = 7, ixy = 7;
         COrxPoint3d c(7, 7, 7);
         EXPECT_FALSE(ORX::g_vl_statics(vl, area, c, ix, iy, ixy));
-        EXPECT_TRUE(area == 7 && ix == 7 && iy == 7 && ixy == 7 && c == pt(7, 7, 7));
+        EXPECT_EQ(area, 7);
+        EXPECT_EQ(ix, 7);
+        EXPECT_EQ(iy, 7);
+        EXPECT_EQ(ixy, 7);
+        EXPECT_EQ(c, pt(7, 7, 7));
     }
 }
 

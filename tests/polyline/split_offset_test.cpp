@@ -8,7 +8,7 @@
 
 #include "orx/polyline/segment_offset.h"
 #include "orx/polyline/split.h"
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 namespace {
 
@@ -39,14 +39,6 @@ COrxVertexArray joined(Pieces const& pieces) {
     return all;
 }
 
-COrxArrayTempl<double> distances(std::vector<double> const& values) {
-    COrxArrayTempl<double> d;
-    for (double v : values) {
-        d.append(v);
-    }
-    return d;
-}
-
 // Random open paths cut at random distances: one more piece than cuts, the lengths add up,
 // and the pieces joined in order are the path again (merged back where a cut broke a
 // segment).
@@ -60,7 +52,7 @@ TEST(SplitTest, SplitThenJoinGivesBackThePolyline) {
         for (double& d : cuts) {
             d = along(random);
         }
-        Pieces const pieces = ORX::g_vl_split_dist(vl, distances(cuts));
+        Pieces const pieces = ORX::g_vl_split_dist(vl, orx_test::numbers(cuts));
         ASSERT_EQ(pieces.len(), cuts.size() + 1) << round;
         double sum = 0;
         for (int k = 0; k < static_cast<int>(pieces.len()); ++k) {
@@ -76,23 +68,25 @@ TEST(SplitTest, SplitThenJoinGivesBackThePolyline) {
 // which join into the outline again, starting at the first cut.
 TEST(SplitTest, LoopsAreCutIntoAsManyPiecesAsCuts) {
     COrxVertexArray const circle = orx_test::unitCircle();
-    COrxPoint3dArray at = orx_test::points({pt(0, -1), pt(0, 1), pt(5, 5)});
+    COrxPoint3dArray at = orx_test::list({pt(0, -1), pt(0, 1), pt(5, 5)});
     Pieces const halves = ORX::g_vl_split(circle, at);
     ASSERT_EQ(halves.len(), 2u);
-    EXPECT_TRUE(halves[0][0].startPoint() == pt(0, 1) && halves[0][-1].endPoint() == pt(0, -1));
-    EXPECT_TRUE(halves[1][0].startPoint() == pt(0, -1) && halves[1][-1].endPoint() == pt(0, 1));
+    EXPECT_EQ(halves[0][0].startPoint(), pt(0, 1));
+    EXPECT_EQ(halves[0][-1].endPoint(), pt(0, -1));
+    EXPECT_EQ(halves[1][0].startPoint(), pt(0, -1));
+    EXPECT_EQ(halves[1][-1].endPoint(), pt(0, 1));
     COrxVertexArray const back = joined(halves);
     EXPECT_TRUE(back.isClosed());
     EXPECT_NEAR(ORX::g_vl_area(back), ORX::kPi, 1e-12);
     // One cut at the start point opens the loop there; no cut gives the loop itself.
     COrxVertexArray const square = orx_test::unitSquare();
-    Pieces const opened = ORX::g_vl_split_dist(square, distances({0.0}));
+    Pieces const opened = ORX::g_vl_split_dist(square, orx_test::numbers({0.0}));
     ASSERT_EQ(opened.len(), 1u);
     EXPECT_EQ(opened[0], square);
-    Pieces const whole = ORX::g_vl_split_dist(square, distances({-1, 7, std::nan("")}));
+    Pieces const whole = ORX::g_vl_split_dist(square, orx_test::numbers({-1, 7, std::nan("")}));
     ASSERT_EQ(whole.len(), 1u);
     EXPECT_EQ(whole[0], square);
-    EXPECT_TRUE(ORX::g_vl_split_dist(COrxVertexArray(), distances({1})).isEmpty());
+    EXPECT_TRUE(ORX::g_vl_split_dist(COrxVertexArray(), orx_test::numbers({1})).isEmpty());
 }
 
 // Points and distances name the same cuts, in any order and repeated; the ends of an open
@@ -101,8 +95,8 @@ TEST(SplitTest, PointsAndDistancesCutAlike) {
     COrxVertexArray const path = polygon({pt(0, 0), pt(4, 0), pt(4, 3)}, false);
     Pieces const byPoints = ORX::g_vl_split(
         path,
-        orx_test::points({pt(4, 2), pt(0, 0), pt(1, 0), pt(4, 2), pt(4, 3), pt(2, 2), pt(4, 0)}));
-    Pieces const byDistance = ORX::g_vl_split_dist(path, distances({6, 1, 4, 0, 7}));
+        orx_test::list({pt(4, 2), pt(0, 0), pt(1, 0), pt(4, 2), pt(4, 3), pt(2, 2), pt(4, 0)}));
+    Pieces const byDistance = ORX::g_vl_split_dist(path, orx_test::numbers({6, 1, 4, 0, 7}));
     ASSERT_EQ(byPoints.len(), 4u);
     ASSERT_EQ(byDistance.len(), 4u);
     for (int k = 0; k < 4; ++k) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -11,11 +11,15 @@ TEST(COrxVertexArrayExTest, AttributesStartEmptyAndSurviveAssignmentFromAPlainPo
     EXPECT_FALSE(ex.text().isNull());  // empty, not null
     ex.setAttribute(7).setText(L"web");
     ex = unitSquare();
-    EXPECT_TRUE(ex.len() == 4 && ex.attribute() == 7 && ex.text() == COrxString(L"web"));
+    EXPECT_EQ(ex.len(), 4);
+    EXPECT_EQ(ex.attribute(), 7);
+    EXPECT_EQ(ex.text(), COrxString(L"web"));
     EXPECT_EQ(COrxVertexArrayEx(unitSquare()).attribute(), 0);
     EXPECT_EQ((ex.reverse() + unitSquare()).attribute(), 7);
     ex.clear();
-    EXPECT_TRUE(ex.isEmpty() && ex.attribute() == 0 && ex.text().len() == 0);
+    EXPECT_TRUE(ex.isEmpty());
+    EXPECT_EQ(ex.attribute(), 0);
+    EXPECT_EQ(ex.text().len(), 0);
 }
 
 TEST(COrxVertexArrayExTest, ConversionsAndOrientation) {
@@ -23,7 +27,8 @@ TEST(COrxVertexArrayExTest, ConversionsAndOrientation) {
     plain.append(unitSquare().reverse()).append(unitSquare());
     COrxArrayTempl<COrxVertexArrayEx> ex = orx_g_xvll(plain, 3, L"plate", COrxVector3d(0, 0, 2));
     ASSERT_EQ(ex.len(), 2u);
-    EXPECT_TRUE(ex[1].attribute() == 3 && ex[0].text() == COrxString(L"plate"));
+    EXPECT_EQ(ex[1].attribute(), 3);
+    EXPECT_EQ(ex[0].text(), COrxString(L"plate"));
     EXPECT_EQ(ex[1].normal(), COrxVector3d::kZAxis);
     ORX::setOrient(ex, COrxVector3d::kZAxis);
     EXPECT_TRUE(ORX::g_vl_orient(ex[0], COrxVector3d::kZAxis));

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -123,9 +123,11 @@ TEST(COrxVertexArrayTest, ExtentsAreTightAroundArcs) {
     COrxVertexArray vl(COrxVertex(pt(1, 0), pt(-1, 0), 1.0));  // upper half circle
     COrxPoint3d lo, hi;
     ASSERT_TRUE(vl.extents(lo, hi));
-    EXPECT_TRUE(lo == pt(-1, 0) && hi == pt(1, 1));
+    EXPECT_EQ(lo, pt(-1, 0));
+    EXPECT_EQ(hi, pt(1, 1));
     COrxVertexArray minor(COrxVertex(pt(1, 0), pt(0, 1), 0.2));  // no axis point inside
-    EXPECT_TRUE(minor.extents(lo, hi) && hi == pt(1, 1));
+    EXPECT_TRUE(minor.extents(lo, hi));
+    EXPECT_EQ(hi, pt(1, 1));
 }
 
 TEST(COrxVertexArrayTest, CornerPointsWithTessellatedArcs) {
@@ -158,8 +160,8 @@ TEST(COrxVertexArrayTest, OrientationOfClosedPolylines) {
     COrxArrayTempl<COrxVertexArray> list;
     list.append(ccw.reverse()).append(circle).append(polygon({pt(0, 0), pt(5, 5)}, false));
     ORX::setOrient(list, COrxVector3d::kZAxis);
-    EXPECT_TRUE(ORX::g_vl_orient(list[0], COrxVector3d::kZAxis) &&
-                ORX::g_vl_orient(list[1], COrxVector3d::kZAxis));
+    EXPECT_TRUE(ORX::g_vl_orient(list[0], COrxVector3d::kZAxis));
+    EXPECT_TRUE(ORX::g_vl_orient(list[1], COrxVector3d::kZAxis));
     EXPECT_EQ(list[2][0].startPoint(), pt(0, 0));  // open: left alone
 }
 

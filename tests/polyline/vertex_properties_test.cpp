@@ -96,7 +96,8 @@ TEST(COrxVertexPropertyTest, EveryIntersectionLiesOnBothSegments) {
         a.intersectWith(pts, b, 0);
         found += pts.len();
         for (int k = 0; k < pts.len(); ++k) {
-            EXPECT_TRUE(a.isPoint(pts[k]) && b.isPoint(pts[k]));
+            EXPECT_TRUE(a.isPoint(pts[k]));
+            EXPECT_TRUE(b.isPoint(pts[k]));
         }
         COrxPoint3dArray swapped;
         b.intersectWith(swapped, a, 0);

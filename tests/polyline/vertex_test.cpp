@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "orx/plane_geometry/plane_geometry.h"
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -58,7 +58,7 @@ TEST(COrxVertexTest, EqualityToleratesBulgesWithinOneHundredThousandth) {
     COrxVertex const a = quarterArc();
     COrxVertex b(a.startPoint(), a.endPoint(), a.bulge() + 0.9e-5);
     b.setTag(5);
-    EXPECT_TRUE(a == b);  // the tag is ignored
+    EXPECT_EQ(a, b);  // the tag is ignored
     EXPECT_FALSE(a == COrxVertex(a.startPoint(), a.endPoint(), a.bulge() + 1.1e-5));
     EXPECT_FALSE(a == a.reverse());
     EXPECT_EQ(b.reverse().tag(), 0);
@@ -108,7 +108,8 @@ TEST(COrxVertexTest, PointQueries) {
     EXPECT_TRUE(arc.isPoint(onArc));
     EXPECT_FALSE(arc.isPoint(ORX::polar(COrxPoint3d(), -0.1, 1.0)));
     double d = -1;
-    EXPECT_TRUE(arc.distAtPoint(d, onArc) && std::fabs(d - ORX::kPi / 6) < 1e-12);
+    EXPECT_TRUE(arc.distAtPoint(d, onArc));
+    EXPECT_NEAR(d, ORX::kPi / 6, 1e-12);
     EXPECT_FALSE(arc.distAtPoint(d, pt(3, 3)));
     EXPECT_EQ(arc.lotp(pt(0, -2)), pt(0, -1));  // the full circle
     EXPECT_EQ(arc.orientp(pt(0.1, 0.1)), 1);    // inside is left
@@ -119,8 +120,10 @@ TEST(COrxVertexTest, PointQueries) {
     EXPECT_FALSE(arc.pointAtDist(p, -0.1, true));
     EXPECT_FALSE(arc.pointAtDist(p, 2.0, true));
     // Extrapolated round the circle, or along the line.
-    EXPECT_TRUE(arc.pointAtDist(p, ORX::kPi, false) && p == pt(-1, 0));
-    EXPECT_TRUE(COrxVertex(pt(0, 0), pt(10, 0), 0.0).pointAtDist(p, -2, false) && p == pt(-2, 0));
+    EXPECT_TRUE(arc.pointAtDist(p, ORX::kPi, false));
+    EXPECT_EQ(p, pt(-1, 0));
+    EXPECT_TRUE(COrxVertex(pt(0, 0), pt(10, 0), 0.0).pointAtDist(p, -2, false));
+    EXPECT_EQ(p, pt(-2, 0));
 }
 
 TEST(COrxVertexTest, CollinearityOnLinesAndCircles) {
@@ -146,7 +149,8 @@ TEST(COrxVertexTest, TrimJoinsSegmentsAtTheirExtendedMeetingPoint) {
     COrxVertex a(pt(0, 0), pt(4, 0), 0.0);
     COrxVertex b(pt(5, 1), pt(5, 5), 0.0);
     ASSERT_TRUE(ORX::g_vx_trim(a, b));
-    EXPECT_TRUE(a.endPoint() == pt(5, 0) && b.startPoint() == pt(5, 0));
+    EXPECT_EQ(a.endPoint(), pt(5, 0));
+    EXPECT_EQ(b.startPoint(), pt(5, 0));
     EXPECT_FALSE(ORX::g_vx_trim(a, b));  // already joined
     COrxVertex d(pt(5, 0), pt(9, 0), 0.0);
     a.set(pt(0, 0), pt(4, 0), 0.0);
@@ -158,7 +162,8 @@ TEST(COrxVertexTest, TrimJoinsSegmentsAtTheirExtendedMeetingPoint) {
     COrxVertex arc(pt(0, 0), 2.0, 0.0, 1.3);
     arc.revert();  // from angle 1.3 clockwise down to angle 0
     ASSERT_TRUE(ORX::g_vx_trim(line, arc));
-    EXPECT_TRUE(line.endPoint() == pt(0, 2) && arc.startPoint() == pt(0, 2));
+    EXPECT_EQ(line.endPoint(), pt(0, 2));
+    EXPECT_EQ(arc.startPoint(), pt(0, 2));
     EXPECT_LT(arc.bulge(), 0.0);
 }
 

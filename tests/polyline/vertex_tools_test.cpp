@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "orx/geom/plane.h"
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -67,11 +67,13 @@ TEST(VertexToolsTest, TangentPoints) {
     COrxPoint3dArray pts;
     ASSERT_TRUE(ORX::g_vx_tangp(upperHalf(), pt(0, 2), pts));
     double const h = std::sqrt(0.75);  // 60 degrees either side of the direction to the point
-    EXPECT_TRUE(pts.len() == 2 && pts.indexOf(pt(h, 0.5)) >= 0 && pts.indexOf(pt(-h, 0.5)) >= 0);
+    EXPECT_EQ(pts.len(), 2);
+    EXPECT_GE(pts.indexOf(pt(h, 0.5)), 0);
+    EXPECT_GE(pts.indexOf(pt(-h, 0.5)), 0);
     EXPECT_FALSE(ORX::g_vx_tangp(upperHalf(), pt(0, -2), pts));  // both touch the lower half
     EXPECT_FALSE(ORX::g_vx_tangp(upperHalf(), pt(0, 0.5), pts));
     ASSERT_TRUE(ORX::g_vx_tangp(upperHalf(), 0.0, pts));  // horizontal tangent: the top
-    EXPECT_EQ(pts, points({pt(0, 1)}));
+    EXPECT_EQ(pts, list({pt(0, 1)}));
     EXPECT_TRUE(ORX::g_vx_tangp(COrxVertex(pt(0, 0), pt(1, 1), 0.0), 5 * ORX::kPi / 4, pts));
     EXPECT_FALSE(ORX::g_vx_tangp(COrxVertex(pt(0, 0), pt(1, 1), 0.0), 0.0, pts));
 }
@@ -87,22 +89,22 @@ TEST(VertexToolsTest, ChordDeviationOfACutArc) {
 }
 
 TEST(VertexToolsTest, SortingPointsAlongSegmentsAndPolylines) {
-    COrxPoint3dArray pts = points({pt(3, 0), pt(9, 9), pt(1, 0), pt(2, 0)});
+    COrxPoint3dArray pts = list({pt(3, 0), pt(9, 9), pt(1, 0), pt(2, 0)});
     EXPECT_EQ(ORX::g_pl_sort_vx(pts, COrxVertex(pt(0, 0), pt(5, 0), 0.0)), 3);
-    EXPECT_EQ(pts, points({pt(1, 0), pt(2, 0), pt(3, 0), pt(9, 9)}));  // off the segment: last
+    EXPECT_EQ(pts, list({pt(1, 0), pt(2, 0), pt(3, 0), pt(9, 9)}));  // off the segment: last
 
     COrxVertexArray const vl = polygon({pt(0, 0), pt(4, 0), pt(4, 4)}, false);
-    COrxPoint3dArray along = points({pt(4, 3), pt(2, 0), pt(4, 1)});
+    COrxPoint3dArray along = list({pt(4, 3), pt(2, 0), pt(4, 1)});
     EXPECT_EQ(ORX::g_pl_sort_vl(along, vl), 3);
-    EXPECT_EQ(along, points({pt(2, 0), pt(4, 1), pt(4, 3)}));
+    EXPECT_EQ(along, list({pt(2, 0), pt(4, 1), pt(4, 3)}));
 }
 
 TEST(PointInsideTest, RayParityOverThePolygon) {
-    COrxPoint3dArray const square = points({pt(0, 0), pt(4, 0), pt(4, 4), pt(0, 4)});
+    COrxPoint3dArray const square = list({pt(0, 0), pt(4, 0), pt(4, 4), pt(0, 4)});
     EXPECT_TRUE(square.ptInside(pt(3.5, 0.5)));
     EXPECT_FALSE(square.ptInside(pt(5, 1)));
-    EXPECT_FALSE(points({pt(0, 0), pt(4, 0)}).ptInside(pt(1, 0)));
-    COrxPoint3dArray const l = points({pt(0, 0), pt(4, 0), pt(4, 1), pt(1, 1), pt(1, 4), pt(0, 4)});
+    EXPECT_FALSE(list({pt(0, 0), pt(4, 0)}).ptInside(pt(1, 0)));
+    COrxPoint3dArray const l = list({pt(0, 0), pt(4, 0), pt(4, 1), pt(1, 1), pt(1, 4), pt(0, 4)});
     EXPECT_TRUE(l.ptInside(pt(0.5, 3)));
     EXPECT_FALSE(l.ptInside(pt(3, 3)));
 }
@@ -113,7 +115,8 @@ TEST(PolylineProjectionTest, ParallelPlanesKeepArcsInclinedPlanesFlattenThem) {
     COrxPlane const raised(pt(0, 0, 5), COrxVector3d::kZAxis);
     COrxVertexArray const up = ORX::vlPlaneProje(raised, vl, COrxVector3d(0, 0, 1));
     ASSERT_EQ(up.len(), 2);
-    EXPECT_TRUE(up[1].startPoint() == pt(2, 0, 5) && up[1].bulge() == 1.0);
+    EXPECT_EQ(up[1].startPoint(), pt(2, 0, 5));
+    EXPECT_EQ(up[1].bulge(), 1.0);
     COrxPlane const inclined(pt(0, 0, 0), COrxVector3d(0, -1, 1));
     COrxVertexArray const tilted = ORX::vlPlaneProje(inclined, vl, COrxVector3d(0, 0, 1));
     EXPECT_GT(tilted.len(), 2);

@@ -1,6 +1,5 @@
 // COrxMesh (faces over shared, de-duplicated points and the rules of addFace) and
 // COrxLineParm (dash patterns).
-#include <initializer_list>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -11,15 +10,8 @@
 
 namespace {
 
+using orx_test::list;
 using orx_test::pt;
-
-COrxPoint3dArray corners(std::initializer_list<COrxPoint3d> list) {
-    COrxPoint3dArray pts;
-    for (COrxPoint3d const& p : list) {
-        pts.append(p);
-    }
-    return pts;
-}
 
 // What getData gives: the faces as indexes into the shared points.
 struct MeshData {
@@ -34,9 +26,9 @@ int pointCount(COrxMesh const& mesh) {
 
 TEST(COrxMeshTest, FacesShareTheirPoints) {
     COrxMesh mesh;
-    ASSERT_TRUE(mesh.addFace(corners({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)})));
+    ASSERT_TRUE(mesh.addFace(list({pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 1)})));
     // The neighbour repeats two corners, one of them only within the point tolerance.
-    ASSERT_TRUE(mesh.addFace(corners({pt(1, 0), pt(2, 0), pt(2, 1), pt(1, 1 + 1e-7)})));
+    ASSERT_TRUE(mesh.addFace(list({pt(1, 0), pt(2, 0), pt(2, 1), pt(1, 1 + 1e-7)})));
     MeshData const data(mesh);
     ASSERT_EQ(data.points.len(), 6);
     ASSERT_EQ(data.faces.len(), 2u);
@@ -55,22 +47,22 @@ TEST(COrxMeshTest, AddFaceRules) {
     COrxMesh mesh;
     // Consecutive repeats and the closing corner are dropped; a corner repeated later in the
     // face shares its point.
-    ASSERT_TRUE(mesh.addFace(corners({pt(0, 0), pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 0)})));
-    ASSERT_TRUE(mesh.addFace(corners({pt(5, 0), pt(6, 0), pt(5, 1), pt(6, 1), pt(6, 0)})));
+    ASSERT_TRUE(mesh.addFace(list({pt(0, 0), pt(0, 0), pt(1, 0), pt(1, 1), pt(0, 0)})));
+    ASSERT_TRUE(mesh.addFace(list({pt(5, 0), pt(6, 0), pt(5, 1), pt(6, 1), pt(6, 0)})));
     MeshData const data(mesh);
     EXPECT_EQ(data.faces[0].len(), 3u);
     EXPECT_EQ(data.faces[1].len(), 5u);
     EXPECT_EQ(data.points.len(), 7);
     // Refused, changing nothing: too few distinct corners, corners that are not numbers.
     double const nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_FALSE(mesh.addFace(corners({pt(0, 0), pt(1, 0), pt(0, 0)})));
+    EXPECT_FALSE(mesh.addFace(list({pt(0, 0), pt(1, 0), pt(0, 0)})));
     EXPECT_FALSE(mesh.addFace(COrxPoint3dArray()));
-    EXPECT_FALSE(mesh.addFace(corners({pt(9, 0), pt(9, 1), pt(nan, 1)})));
+    EXPECT_FALSE(mesh.addFace(list({pt(9, 0), pt(9, 1), pt(nan, 1)})));
     EXPECT_EQ(mesh.len(), 2);
     EXPECT_EQ(pointCount(mesh), 7);
     // A polyline gives its corners: an arc is taken as its chord.
     COrxVertexArray square;
-    square.fromPoints(corners({pt(0, 0), pt(3, 0), pt(3, 3), pt(0, 3)}), true);
+    square.fromPoints(list({pt(0, 0), pt(3, 0), pt(3, 3), pt(0, 3)}), true);
     square[1].set(square[1].startPoint(), square[1].endPoint(), 0.5);
     ASSERT_TRUE(mesh.addFace(square));
     EXPECT_TRUE(mesh[2][1].isStraight());
@@ -85,22 +77,22 @@ TEST(COrxMeshTest, IndexesStayWithinShorts) {
     }
     ASSERT_TRUE(mesh.addFace(zigzag));
     // One point more does not fit: refused, and the mesh keeps what it had.
-    EXPECT_FALSE(mesh.addFace(corners({pt(0, 0), pt(1, 1), pt(-1, 5)})));
-    EXPECT_TRUE(mesh.addFace(corners({pt(0, 0), pt(1, 1), pt(2, 0)})));
+    EXPECT_FALSE(mesh.addFace(list({pt(0, 0), pt(1, 1), pt(-1, 5)})));
+    EXPECT_TRUE(mesh.addFace(list({pt(0, 0), pt(1, 1), pt(2, 0)})));
     EXPECT_EQ(pointCount(mesh), ORX::kMaxMeshPoints);
-    EXPECT_TRUE(mesh.clear().addFace(corners({pt(0, 0), pt(1, 1), pt(-1, 5)})));
+    EXPECT_TRUE(mesh.clear().addFace(list({pt(0, 0), pt(1, 1), pt(-1, 5)})));
     EXPECT_EQ(mesh.len(), 1);
 }
 
 TEST(COrxMeshTest, TransformMovesThePointsAndKeepsThemShared) {
     COrxMesh mesh;
-    mesh.addFace(corners({pt(0, 0), pt(1, 0), pt(1, 1)}));
+    mesh.addFace(list({pt(0, 0), pt(1, 0), pt(1, 1)}));
     COrxMatrix3d m;
     m.setToRotation(ORX::kHalfPi, COrxVector3d::kZAxis, pt(0, 0));
     COrxMesh turned = mesh.getTransformedCopy(m);
     EXPECT_EQ(turned[0][1].startPoint(), pt(0, 1));
     EXPECT_EQ(mesh[0][1].startPoint(), pt(1, 0));  // the source is untouched
-    ASSERT_TRUE(turned.addFace(corners({pt(0, 1), pt(-1, 1), pt(-2, 2)})));
+    ASSERT_TRUE(turned.addFace(list({pt(0, 1), pt(-1, 1), pt(-2, 2)})));
     EXPECT_EQ(pointCount(turned), 4);  // (0, 1) and (-1, 1) found again after the turn
 }
 

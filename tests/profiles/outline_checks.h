@@ -10,24 +10,13 @@
 
 #include "orx/polyline/polyline.h"
 #include "orx/profiles/profiles.h"
+#include "tests/support/shapes.h"
 
 namespace orx_test {
 
-inline COrxPoint3d pt(double x, double y) {
-    return COrxPoint3d(x, y, 0);
-}
-
-inline COrxArrayTempl<double> dims(std::vector<double> const& values) {
-    COrxArrayTempl<double> d;
-    for (double v : values) {
-        d.append(v);
-    }
-    return d;
-}
-
 inline COrxVertexArray outline(int code, std::vector<double> const& values,
                                COrxVector3d const& offset = COrxVector3d()) {
-    return ORX::g_outline(code, offset, dims(values));
+    return ORX::g_outline(code, offset, numbers(values));
 }
 
 // True when two segments meet anywhere but at a joint they share (consecutive segments,

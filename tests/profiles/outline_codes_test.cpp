@@ -173,7 +173,7 @@ std::vector<FixedCase> const kFixedCases = {
 TEST(OutlineCodesTest, EveryCornerAndBulgeMovedByTheOffset) {
     for (FixedCase const& c : kFixedCases) {
         SCOPED_TRACE(c.name);
-        COrxVertexArray const vl = ORX::g_outline(c.code, kOffset, orx_test::dims(c.dims));
+        COrxVertexArray const vl = ORX::g_outline(c.code, kOffset, orx_test::numbers(c.dims));
         EXPECT_TRUE(runsThrough(vl, c.corners, kOffset));
     }
 }

@@ -80,7 +80,7 @@ TEST(OutlinePropertiesTest, EveryCodeIsClosedPositiveSimpleAndInsideItsBox) {
         Typical const& t = table[i];
         SCOPED_TRACE(t.code);
         EXPECT_EQ(static_cast<unsigned int>(t.code), ORX::g_outline_code(i));
-        COrxVertexArray vl = ORX::g_outline(t.code, COrxVector3d(), orx_test::dims(t.dims));
+        COrxVertexArray vl = ORX::g_outline(t.code, COrxVector3d(), orx_test::numbers(t.dims));
         ASSERT_FALSE(vl.isEmpty());
         EXPECT_TRUE(vl.isClosed());
         EXPECT_GT(ORX::g_vl_area(vl), 0);
@@ -93,9 +93,13 @@ TEST(OutlinePropertiesTest, EveryCodeIsClosedPositiveSimpleAndInsideItsBox) {
         COrxPoint3d c;
         ASSERT_TRUE(ORX::g_vl_statics(vl, area, c, ix, iy, ixy));
         EXPECT_NEAR(area, ORX::g_vl_area(vl), 1e-12 * area);
-        EXPECT_TRUE(c.x > lo.x && c.x < hi.x && c.y > lo.y && c.y < hi.y);
-        EXPECT_TRUE(ix > 0 && iy > 0);
-        EXPECT_EQ(ORX::g_outline(t.code, offset, orx_test::dims(t.dims)), vl.move(offset));
+        EXPECT_GT(c.x, lo.x);
+        EXPECT_LT(c.x, hi.x);
+        EXPECT_GT(c.y, lo.y);
+        EXPECT_LT(c.y, hi.y);
+        EXPECT_GT(ix, 0);
+        EXPECT_GT(iy, 0);
+        EXPECT_EQ(ORX::g_outline(t.code, offset, orx_test::numbers(t.dims)), vl.move(offset));
     }
 }
 
@@ -109,7 +113,7 @@ TEST(OutlinePropertiesTest, HugeAndTinyDimensionsKeepTheShape) {
                 scaled[k] *= k == kept ? 1 : scale;
             }
             COrxVertexArray const vl =
-                ORX::g_outline(t.code, COrxVector3d(), orx_test::dims(scaled));
+                ORX::g_outline(t.code, COrxVector3d(), orx_test::numbers(scaled));
             ASSERT_FALSE(vl.isEmpty()) << t.code << " at " << scale;
             EXPECT_GT(ORX::g_vl_area(vl), 0) << t.code << " at " << scale;
         }
@@ -142,7 +146,7 @@ TEST(OutlinePropertiesTest, ChosenShapesStaySimpleForRandomValidDimensions) {
         };
         for (auto const& c : cases) {
             COrxVertexArray const vl =
-                ORX::g_outline(c.first, COrxVector3d(), orx_test::dims(c.second));
+                ORX::g_outline(c.first, COrxVector3d(), orx_test::numbers(c.second));
             ASSERT_FALSE(vl.isEmpty()) << c.first << " round " << round;
             EXPECT_TRUE(vl.isClosed()) << c.first << " round " << round;
             EXPECT_GT(ORX::g_vl_area(vl), 0) << c.first << " round " << round;

@@ -5,9 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <string>
 
 #include "reference_overlay.h"
-#include "shapes.h"
+#include "shape_maker.h"
+#include "tests/support/case_files.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -21,6 +24,7 @@ COrxVertexArray operand(ShapeMaker& make, int n) {
 
 // The three operations against the plain algorithm.
 void expectSameBooleans(COrxVertexArray const& a, COrxVertexArray const& b, int n) {
+    KeepOperandsOnFailure keep("acceleration-booleans-" + std::to_string(n), a, b);
     for (int op = 0; op < 3; ++op) {
         auto const o = static_cast<COrxVertexArray::boolOper>(op);
         EXPECT_TRUE(identical(ORX::g_vl_bool(a, b, o), plainBool(a, b, o)))
@@ -36,6 +40,7 @@ TEST(AccelerationTest, IntersectionsMatchTheAllPairsLoop) {
                                  COrxVertex::kSkipOtherEnds, COrxVertex::kExtended};
     for (int n = 0; n < kCases; ++n) {
         COrxVertexArray const a = operand(make, n), b = operand(make, n);
+        KeepOperandsOnFailure keep("acceleration-intersections-" + std::to_string(n), a, b);
         for (unsigned flags : flagSets) {
             COrxPoint3dArray fast, plain;
             EXPECT_EQ(a.intersectWith(fast, b, flags), plainIntersect(a, b, flags, plain));
@@ -48,6 +53,7 @@ TEST(AccelerationTest, CuttingMatchesThePlainLoop) {
     ShapeMaker make(37u);
     for (int n = 0; n < kCases; ++n) {
         COrxVertexArray const a = operand(make, n), b = operand(make, n);
+        KeepOperandsOnFailure keep("acceleration-cutting-" + std::to_string(n), a, b);
         for (int mode = 1; mode <= 3; ++mode) {
             COrxVertexArray fastA = a, fastB = b, plainA = a, plainB = b;
             ORX::g_vl_break(fastA, fastB, mode);
@@ -62,6 +68,8 @@ TEST(AccelerationTest, PointInPolylineMatchesThePlainRayTest) {
     ShapeMaker make(41u);
     for (int n = 0; n < kCases; ++n) {
         COrxVertexArray const vl = operand(make, n);
+        KeepOperandsOnFailure keep("acceleration-inside-" + std::to_string(n), vl,
+                                   COrxVertexArray());
         // Random points, the corners and the midpoints (on the boundary), and points on grid
         // lines through the corners (rays through corners restart).
         COrxPoint3dArray probes;

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "shapes.h"
+#include "region_measures.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -76,7 +77,8 @@ TEST(BoolOperationTest, OperandsAreTakenByValue) {
     COrxVertexArray const b = rectangle(1, 1, 3, 3);
     COrxVertexArray const aBefore = a, bBefore = b;
     ORX::g_vl_bool(a, b, COrxVertexArray::boolUnion);
-    EXPECT_TRUE(a == aBefore && b == bBefore);
+    EXPECT_EQ(a, aBefore);
+    EXPECT_EQ(b, bBefore);
 }
 
 TEST(BoolOperationTest, SelfAndDegenerateOperands) {
@@ -135,11 +137,13 @@ TEST(BoolOperationTest, BreakCutsBothOperandsAtEveryMeetingPoint) {
     COrxVertexArray a = rectangle(0, 0, 2, 2);
     COrxVertexArray b = rectangle(1, 1, 3, 3);
     EXPECT_FALSE(ORX::g_vl_break(a, b, 3));
-    EXPECT_TRUE(a.len() == 6 && b.len() == 6);
+    EXPECT_EQ(a.len(), 6);
+    EXPECT_EQ(b.len(), 6);
     EXPECT_NEAR(a.geomLength(), 8, 1e-12);
     COrxVertexArray onlyA = rectangle(0, 0, 2, 2), onlyB = rectangle(1, 1, 3, 3);
     ORX::g_vl_break(onlyA, onlyB, 1);
-    EXPECT_TRUE(onlyA.len() == 6 && onlyB.len() == 4);
+    EXPECT_EQ(onlyA.len(), 6);
+    EXPECT_EQ(onlyB.len(), 4);
 
     // A corner touching the inside of an edge cuts that edge (the start-point rule).
     COrxVertexArray edge = rectangle(0, 0, 2, 2);
@@ -175,7 +179,8 @@ TEST(BoolOperationTest, SortChainsHeadToTailWithExactJoints) {
         .append(COrxVertex(pt(7, 7), pt(8, 8), 0.0));
     ORX::g_vl_sort(vl);
     EXPECT_EQ(vl[0].endPoint().y, 4e-6);  // copied exactly
-    EXPECT_TRUE(vl[2].startPoint() == pt(1, 1) && vl[3].startPoint() == pt(7, 7));
+    EXPECT_EQ(vl[2].startPoint(), pt(1, 1));
+    EXPECT_EQ(vl[3].startPoint(), pt(7, 7));
     EXPECT_FALSE(vl.isClosed());
 }
 

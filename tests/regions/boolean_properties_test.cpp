@@ -5,9 +5,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 #include "orx/geom/tolerance.h"
-#include "shapes.h"
+#include "region_measures.h"
+#include "shape_maker.h"
+#include "tests/support/case_files.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -53,6 +57,7 @@ TEST(BooleanPropertyTest, PolylineOperationsAddUpAndAgreeWithTheOperands) {
         COrxVertexArray const a = make.outline();
         COrxVertexArray const b = make.outline();
         SCOPED_TRACE(testing::Message() << "case " << n);
+        KeepOperandsOnFailure keep("boolean-polylines-" + std::to_string(n), a, b);
         COrxVertexArray const u = ORX::g_vl_bool(a, b, COrxVertexArray::boolUnion);
         COrxVertexArray const d = ORX::g_vl_bool(a, b, COrxVertexArray::boolDiff);
         COrxVertexArray const s = ORX::g_vl_bool(a, b, COrxVertexArray::boolSect);
@@ -82,6 +87,7 @@ TEST(BooleanPropertyTest, RegionOperationsAddUpAndAgreeWithTheOperands) {
         Region const a = make.withHoles();
         Region const b = make.withHoles();
         SCOPED_TRACE(testing::Message() << "case " << n);
+        KeepOperandsOnFailure keep("boolean-regions-" + std::to_string(n), a, b);
         RegionList u, d, s;
         ORX::g_region_union(a, b, u);
         ORX::g_region_diff(a, b, d);
@@ -111,6 +117,7 @@ TEST(BooleanPropertyTest, ResultsDoNotDependOnTheOperandsStartingPoint) {
     for (int n = 0; n < 50; ++n) {
         COrxVertexArray const a = make.outline();
         COrxVertexArray const b = make.outline();
+        KeepOperandsOnFailure keep("boolean-rolled-" + std::to_string(n), a, b);
         COrxVertexArray rolled;  // the same outline, starting at its second segment
         for (int k = 1; k <= a.len(); ++k) {
             rolled.append(a[k % a.len()]);

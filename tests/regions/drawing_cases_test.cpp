@@ -4,7 +4,8 @@
 
 #include <cmath>
 
-#include "shapes.h"
+#include "region_measures.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

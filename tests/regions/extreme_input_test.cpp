@@ -22,7 +22,8 @@
 #include <vector>
 
 #include "orx/orx.h"
-#include "shapes.h"
+#include "region_measures.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "shapes.h"
+#include "tests/support/shapes.h"
 
 namespace orx_test {
 

@@ -1,15 +1,13 @@
-// What the metamorphic tests check on a result, and how a failing case is kept: its
-// operands written as a DXF drawing that `orx render` draws.
+// What the metamorphic tests check on a result: every loop closes and no two loops cross.
 #ifndef ORX_TESTS_REGIONS_METAMORPHIC_CHECKS_H
 #define ORX_TESTS_REGIONS_METAMORPHIC_CHECKS_H
 
 #include <algorithm>
-#include <cstdio>
-#include <fstream>
 #include <string>
 #include <vector>
 
-#include "shapes.h"
+#include "orx/regions/regions.h"
+#include "tests/support/shapes.h"
 
 namespace orx_test {
 
@@ -94,34 +92,6 @@ inline bool anyCrossing(Region const& loops) {
         }
     }
     return false;
-}
-
-inline void writeLoops(std::ofstream& out, Region const& loops, char const* layer) {
-    char number[32];
-    auto put = [&](int code, double value) {
-        std::snprintf(number, sizeof number, "%.17g", value);
-        out << code << "\n" << number << "\n";
-    };
-    for (unsigned long l = 0; l < loops.len(); ++l) {
-        COrxVertexArray const& loop = loops[static_cast<int>(l)];
-        out << "0\nLWPOLYLINE\n8\n" << layer << "\n90\n" << loop.len() << "\n70\n1\n";
-        for (int k = 0; k < loop.len(); ++k) {
-            put(10, loop[k].startPoint().x);
-            put(20, loop[k].startPoint().y);
-            put(42, loop[k].bulge());
-        }
-    }
-}
-
-// Writes the operands of a failing case beside the test program; returns the file name.
-inline std::string writeCase(unsigned seed, Region const& a, Region const& b) {
-    std::string const name = "metamorphic-" + std::to_string(seed) + ".dxf";
-    std::ofstream out(name);
-    out << "0\nSECTION\n2\nENTITIES\n";
-    writeLoops(out, a, "A");
-    writeLoops(out, b, "B");
-    out << "0\nENDSEC\n0\nEOF\n";
-    return name;
 }
 
 }  // namespace orx_test

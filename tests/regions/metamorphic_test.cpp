@@ -13,6 +13,8 @@
 
 #include "metamorphic_cases.h"
 #include "metamorphic_checks.h"
+#include "region_measures.h"
+#include "tests/support/case_files.h"
 
 using namespace orx_test;
 
@@ -121,7 +123,9 @@ TEST(MetamorphicTest, OperationsKeepTheirIdentitiesOnDrawingInputs) {
         if (!trouble.empty()) {
             ++reported;
             ADD_FAILURE() << "seed " << seed << " (" << pair.kind << "): " << trouble
-                          << "; operands in " << writeCase(seed, pair.a, pair.b);
+                          << "; operands in "
+                          << writeCaseFile("metamorphic-" + std::to_string(seed) + ".json", pair.a,
+                                           pair.b);
         }
     }
 }

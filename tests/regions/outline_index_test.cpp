@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "../../bench/bench_shapes.h"
-#include "shapes.h"
+#include "shape_maker.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

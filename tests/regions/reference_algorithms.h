@@ -5,7 +5,10 @@
 #define ORX_TESTS_REGIONS_REFERENCE_ALGORITHMS_H
 
 #include <cstdlib>
+#include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "orx/geom/functions.h"
 #include "orx/geom/tolerance.h"
@@ -192,17 +195,28 @@ inline bool identical(COrxVertex const& u, COrxVertex const& v) {
            u.bulge() == v.bulge();
 }
 
+// The element of an array printed for a failure, or "none" past its end.
 template <class Array>
-bool identical(Array const& a, Array const& b) {
-    if (a.len() != b.len()) {
-        return false;
+std::string elementText(Array const& a, long k) {
+    return k < static_cast<long>(a.len()) ? ::testing::PrintToString(a[static_cast<int>(k)])
+                                          : std::string("none");
+}
+
+// For arrays, a failure gives the lengths and the first pair of elements that differ.
+template <class Array>
+::testing::AssertionResult identical(Array const& a, Array const& b) {
+    long const n = static_cast<long>(a.len());
+    long k = 0;
+    while (k < n && k < static_cast<long>(b.len()) &&
+           identical(a[static_cast<int>(k)], b[static_cast<int>(k)])) {
+        ++k;
     }
-    for (long k = 0; k < static_cast<long>(a.len()); ++k) {
-        if (!identical(a[static_cast<int>(k)], b[static_cast<int>(k)])) {
-            return false;
-        }
+    if (k == n && a.len() == b.len()) {
+        return ::testing::AssertionSuccess();
     }
-    return true;
+    return ::testing::AssertionFailure()
+           << "lengths " << a.len() << " and " << b.len() << ", element " << k << " is\n  "
+           << elementText(a, k) << "\n  against\n  " << elementText(b, k);
 }
 
 }  // namespace orx_test

@@ -9,7 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "orx/polyline/section_properties.h"
-#include "shapes.h"
+#include "region_measures.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 

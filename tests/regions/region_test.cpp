@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "orx/regions/region_building.h"
-#include "shapes.h"
+#include "region_measures.h"
+#include "tests/support/shapes.h"
 
 using namespace orx_test;
 
@@ -23,7 +24,8 @@ TEST(RegionTest, EmptyRegionsAreRefusedWithOutUntouched) {
     EXPECT_FALSE(ORX::g_region_union(Region(), region({rectangle(0, 0, 1, 1)}), out));
     EXPECT_FALSE(ORX::g_region_sect(region({rectangle(0, 0, 1, 1)}), Region(), out));
     EXPECT_FALSE(ORX::g_region_diff(Region(), Region(), out));
-    EXPECT_TRUE(out.len() == 1 && area(out) == 1.0);
+    EXPECT_EQ(out.len(), 1);
+    EXPECT_EQ(area(out), 1.0);
     EXPECT_TRUE(ORX::g_vl_vll(COrxVertexArray()).isEmpty());
 }
 
@@ -32,14 +34,17 @@ TEST(RegionTest, DisjointRegions) {
     Region const b = region({circle(pt(5, 5), 1)});
     RegionList out;
     ASSERT_TRUE(ORX::g_region_union(a, b, out));
-    EXPECT_TRUE(out.len() == 2 && out[0] == a && out[1] == b);
+    EXPECT_EQ(out.len(), 2);
+    EXPECT_EQ(out[0], a);
+    EXPECT_EQ(out[1], b);
     RegionList untouched;
     untouched.append(a);
     EXPECT_FALSE(ORX::g_region_sect(a, b, untouched));
     EXPECT_EQ(untouched.len(), 1u);
     RegionList diff;
     EXPECT_FALSE(ORX::g_region_diff(a, b, diff));  // nothing subtracted
-    EXPECT_TRUE(diff.len() == 1 && diff[0] == a);
+    EXPECT_EQ(diff.len(), 1);
+    EXPECT_EQ(diff[0], a);
 }
 
 TEST(RegionTest, SquaresTouchingAlongASide) {
@@ -47,7 +52,8 @@ TEST(RegionTest, SquaresTouchingAlongASide) {
     Region const b = region({rectangle(1, 0, 2, 1)});
     RegionList out;
     ASSERT_TRUE(ORX::g_region_union(a, b, out));
-    ASSERT_TRUE(out.len() == 1 && out[0].len() == 1);
+    ASSERT_EQ(out.len(), 1);
+    ASSERT_EQ(out[0].len(), 1);
     EXPECT_EQ(out[0][0].len(), 4);  // the shared side vanished, the long sides merged
     EXPECT_NEAR(area(out), 2.0, 1e-12);
     RegionList sect;
@@ -59,7 +65,8 @@ TEST(RegionTest, SquareMinusInnerSquareHasAHoleInTheCommonSense) {
     RegionList out;
     ASSERT_TRUE(ORX::g_region_diff(region({rectangle(0, 0, 10, 10)}),
                                    region({rectangle(2, 2, 4, 4)}), out));
-    ASSERT_TRUE(out.len() == 1 && out[0].len() == 2);
+    ASSERT_EQ(out.len(), 1);
+    ASSERT_EQ(out[0].len(), 2);
     EXPECT_TRUE(ORX::g_vl_orient(out[0][1], COrxVector3d::kZAxis));
     EXPECT_NEAR(area(out), 96.0, 1e-12);
     EXPECT_EQ(ORX::g_vll_pt_inside(out[0], pt(3, 3)), -1);
@@ -70,7 +77,8 @@ TEST(RegionTest, UntouchedCircularHoleSurvivesTheUnion) {
     Region const tab = region({rectangle(8, 4, 12, 6)});
     RegionList out;
     ASSERT_TRUE(ORX::g_region_union(plate, tab, out));
-    ASSERT_TRUE(out.len() == 1 && out[0].len() == 2);
+    ASSERT_EQ(out.len(), 1);
+    ASSERT_EQ(out[0].len(), 2);
     EXPECT_NEAR(area(out), 100 + 4 - ORX::kPi, 1e-9);
     EXPECT_EQ(ORX::g_vll_pt_inside(out[0], pt(3, 5)), -1);
 }
@@ -113,9 +121,12 @@ TEST(RegionTest, GroupingLoopsByNestingDepth) {
     RegionList const regions = ORX::g_vll_region(loops);
     ASSERT_EQ(regions.len(), 4u);
     EXPECT_EQ(regions[0][0], loops[2]);  // depth 0, by index
-    EXPECT_TRUE(regions[1].len() == 2 && regions[1][0] == loops[3] && regions[1][1] == loops[0]);
+    EXPECT_EQ(regions[1].len(), 2);
+    EXPECT_EQ(regions[1][0], loops[3]);
+    EXPECT_EQ(regions[1][1], loops[0]);
     // Depth 2 comes after the depth-0 loops.
-    EXPECT_TRUE(regions[3][0] == loops[1] && regions[3][1] == loops[4]);
+    EXPECT_EQ(regions[3][0], loops[1]);
+    EXPECT_EQ(regions[3][1], loops[4]);
 }
 
 TEST(RegionTest, BuildingRegionsFromUnorderedLoops) {
@@ -126,17 +137,22 @@ TEST(RegionTest, BuildingRegionsFromUnorderedLoops) {
         .append(rectangle(4, 4, 6, 6));   // 2: island in the hole
     RegionList const plain = ORX::g_vll_regions(nested, 0);
     ASSERT_EQ(plain.len(), 2u);
-    EXPECT_TRUE(plain[0].len() == 2 && plain[0][0] == nested[1] && plain[0][1] == nested[0]);
+    EXPECT_EQ(plain[0].len(), 2);
+    EXPECT_EQ(plain[0][0], nested[1]);
+    EXPECT_EQ(plain[0][1], nested[0]);
     EXPECT_EQ(plain[1][0], nested[2]);
     EXPECT_EQ(ORX::g_vll_regions(nested, ORX::kRegionsDropIslands).len(), 1u);
     RegionList const outerOnly = ORX::g_vll_regions(nested, ORX::kRegionsOuterOnly);
-    EXPECT_TRUE(outerOnly.len() == 2 && outerOnly[0].len() == 1);
+    EXPECT_EQ(outerOnly.len(), 2);
+    EXPECT_EQ(outerOnly[0].len(), 1);
 
     // A loop crossing the outer loop: both stay out, unless crossing loops are kept.
     Region crossing = nested;
     crossing.append(rectangle(9, 9, 12, 12));
     RegionList const without = ORX::g_vll_regions(crossing, 0);
-    EXPECT_TRUE(without.len() == 1 && without[0][0] == nested[0] && without[0][1] == nested[2]);
+    EXPECT_EQ(without.len(), 1);
+    EXPECT_EQ(without[0][0], nested[0]);
+    EXPECT_EQ(without[0][1], nested[2]);
     EXPECT_EQ(ORX::g_vll_regions(crossing, ORX::kRegionsKeepCrossing).len(), 3u);
 }
 

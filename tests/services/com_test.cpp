@@ -236,7 +236,8 @@ TEST_F(ServerLookupTest, CurProgIdAndServerFromProgIdFollowTheRegistration) {
     COrxString found(L"untouched");
     EXPECT_FALSE(ORX::serverFromProgID(nullptr, found));
     EXPECT_FALSE(ORX::serverFromProgID(progId, found));
-    EXPECT_FALSE(ORX::curProgId(found, nullptr) || ORX::curProgId(found, progId));
+    EXPECT_FALSE(ORX::curProgId(found, nullptr));
+    EXPECT_FALSE(ORX::curProgId(found, progId));
     EXPECT_EQ(found, L"untouched");
 
     ASSERT_TRUE(orx_test::registerServer(progId, classId, program));

@@ -32,24 +32,34 @@ ORX::CDateTime at(__int64 t, bool gmt) {
 
 TEST(CDateTimeTest, SettersRefuseDatesThatDoNotExist) {
     ORX::CDateTime dt;
-    ASSERT_TRUE(dt.setYear(2016) && dt.setDay(30));
+    ASSERT_TRUE(dt.setYear(2016));
+    ASSERT_TRUE(dt.setDay(30));
     EXPECT_FALSE(dt.setMonth(2));  // no 30 February; the day is not moved
     ASSERT_TRUE(dt.setDay(29));
     EXPECT_TRUE(dt.setMonth(2));  // 2016 is a leap year
 
-    ASSERT_TRUE(dt.setDay(28) && dt.setYear(2100));
+    ASSERT_TRUE(dt.setDay(28));
+    ASSERT_TRUE(dt.setYear(2100));
     EXPECT_FALSE(dt.setDay(29));  // divisible by 100: no leap year
     ASSERT_TRUE(dt.setYear(2000));
     EXPECT_TRUE(dt.setDay(29));  // divisible by 400: a leap year
-    ASSERT_TRUE(dt.setMonth(4) && dt.setHour(23) && dt.setMinute(59) && dt.setSecond(59));
+    ASSERT_TRUE(dt.setMonth(4));
+    ASSERT_TRUE(dt.setHour(23));
+    ASSERT_TRUE(dt.setMinute(59));
+    ASSERT_TRUE(dt.setSecond(59));
 
     EXPECT_FALSE(dt.setDay(31));
     EXPECT_FALSE(dt.setDay(0));
-    EXPECT_FALSE(dt.setMonth(0) || dt.setMonth(13));
-    EXPECT_FALSE(dt.setYear(1969) || dt.setYear(30828));
-    EXPECT_FALSE(dt.setHour(24) || dt.setHour(-1));
-    EXPECT_FALSE(dt.setMinute(60) || dt.setMinute(-1));
-    EXPECT_FALSE(dt.setSecond(60) || dt.setSecond(-2147483647 - 1));
+    EXPECT_FALSE(dt.setMonth(0));
+    EXPECT_FALSE(dt.setMonth(13));
+    EXPECT_FALSE(dt.setYear(1969));
+    EXPECT_FALSE(dt.setYear(30828));
+    EXPECT_FALSE(dt.setHour(24));
+    EXPECT_FALSE(dt.setHour(-1));
+    EXPECT_FALSE(dt.setMinute(60));
+    EXPECT_FALSE(dt.setMinute(-1));
+    EXPECT_FALSE(dt.setSecond(60));
+    EXPECT_FALSE(dt.setSecond(-2147483647 - 1));
     EXPECT_EQ(fieldsOf(dt), Fields(2000, 4, 29, 23, 59, 59));
 }
 
@@ -93,8 +103,10 @@ TEST(CDateTimeTest, NowIsTheCurrentTimeWithItsFlag) {
     std::time_t const before = std::time(nullptr);
     ORX::CDateTime const gmt = ORX::CDateTime::now(true);
     ORX::CDateTime const local = ORX::CDateTime::now(false);
-    EXPECT_TRUE(gmt.isGMT() && !local.isGMT());
-    EXPECT_TRUE(gmt.time() >= before && local.time() <= std::time(nullptr));
+    EXPECT_TRUE(gmt.isGMT());
+    EXPECT_FALSE(local.isGMT());
+    EXPECT_GE(gmt.time(), before);
+    EXPECT_LE(local.time(), std::time(nullptr));
 }
 
 TEST(CDateTimeConversionTest, TmConversionsNormaliseAndRefuseBadInput) {

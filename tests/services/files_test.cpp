@@ -81,7 +81,8 @@ TEST(FileExistTest, FindsFilesAndDirectoriesAfterExpandingTheName) {
     EXPECT_TRUE(ORX::fileExist((scratch / L"plan.dwg").c_str()));
     EXPECT_TRUE(ORX::fileExist((scratch / L"sub").c_str()));
     EXPECT_FALSE(ORX::fileExist((scratch / L"missing.dwg").c_str()));
-    EXPECT_FALSE(ORX::fileExist(nullptr) || ORX::fileExist(L""));
+    EXPECT_FALSE(ORX::fileExist(nullptr));
+    EXPECT_FALSE(ORX::fileExist(L""));
 
     ScopedEnv dir("ORX_TEST_DIR", scratch.narrow());
     // '\' is the foreign separator on Linux, and foreign() turns it into '/' on Windows.

@@ -12,22 +12,16 @@
 #include <cstdlib>
 
 #include "registry_test_support.h"
+#include "tests/support/lists.h"
 
 namespace {
 
 using orx_test::Key;
+using orx_test::list;
 using orx_test::readValue;
 using orx_test::RegistryTest;
 using orx_test::uniqueName;
 using List = COrxArrayTempl<COrxString>;
-
-List listOf(std::initializer_list<wchar_t const*> texts) {
-    List list;
-    for (wchar_t const* text : texts) {
-        list.append(COrxString(text));
-    }
-    return list;
-}
 
 }  // namespace
 
@@ -57,10 +51,10 @@ TEST_F(RegistryTest, WithoutVersionNothingIsReadOrWritten) {
     EXPECT_FALSE(ORX::regInit(L"App"));
     EXPECT_FALSE(ORX::regWrite(L"App", L"n", 1ul));
     EXPECT_FALSE(ORX::regWrite(L"App", L"t", L"x", false));
-    EXPECT_FALSE(ORX::regWrite(L"App", L"l", listOf({L"kept"})));
+    EXPECT_FALSE(ORX::regWrite(L"App", L"l", list({L"kept"})));
     EXPECT_FALSE(readValue(L"App", L"n", 7ul));
     EXPECT_FALSE(readValue(L"App", L"t", COrxString(L"kept")));
-    EXPECT_FALSE(readValue(L"App", L"l", listOf({L"kept"})));
+    EXPECT_FALSE(readValue(L"App", L"l", list({L"kept"})));
     EXPECT_FALSE(ORX::regDelValue(L"App", L"n"));
     EXPECT_EQ(Key(ORX::regOpenKey(HKEY_CURRENT_USER, base(), false)).get(), nullptr);
 #ifndef _WIN32
@@ -69,7 +63,8 @@ TEST_F(RegistryTest, WithoutVersionNothingIsReadOrWritten) {
 }
 
 TEST_F(RegistryTest, InitRecordsTheCurrentVersionAndRegistersTheApplication) {
-    EXPECT_FALSE(ORX::regInit(nullptr) || ORX::regInit(L""));
+    EXPECT_FALSE(ORX::regInit(nullptr));
+    EXPECT_FALSE(ORX::regInit(L""));
     ASSERT_TRUE(ORX::regInit(L"InitApp"));
     EXPECT_EQ(textAt(HKEY_CURRENT_USER, path(L"InitApp"), L"CurVer"), L"2017.0");
     EXPECT_NE(Key(ORX::regOpenKey(HKEY_CURRENT_USER, path(L"InitApp\\2017.0"), false)).get(),
@@ -86,16 +81,16 @@ TEST_F(RegistryTest, InitRecordsTheCurrentVersionAndRegistersTheApplication) {
 TEST_F(RegistryTest, SettingsRoundTripAndReadsCheckTheType) {
     ASSERT_TRUE(ORX::regWrite(L"App", L"Text", L"Gr\u00fc\u00dfe \u20ac", false));
     ASSERT_TRUE(ORX::regWrite(L"App", L"Number", 4000000000ul));
-    ASSERT_TRUE(ORX::regWrite(L"App", L"List", listOf({L"one", L"two", L"\u00e4"})));
+    ASSERT_TRUE(ORX::regWrite(L"App", L"List", list({L"one", L"two", L"\u00e4"})));
     ASSERT_TRUE(ORX::regWrite(L"App", L"Empty", L"", false));
     EXPECT_EQ(readValue<COrxString>(L"App", L"text"), L"Gr\u00fc\u00dfe \u20ac");  // any case
     EXPECT_EQ(readValue<unsigned long>(L"App", L"Number"), 4000000000ul);
-    EXPECT_EQ(readValue(L"App", L"List", listOf({L"stale"})), listOf({L"one", L"two", L"\u00e4"}));
+    EXPECT_EQ(readValue(L"App", L"List", list({L"stale"})), list({L"one", L"two", L"\u00e4"}));
     EXPECT_EQ(readValue(L"App", L"Empty", COrxString(L"stale")), L"");
 
     // A value of another type is no value, and the outputs stay as they were.
     EXPECT_FALSE(readValue(L"App", L"Text", 5ul));
-    EXPECT_FALSE(readValue(L"App", L"Text", listOf({L"kept"})));
+    EXPECT_FALSE(readValue(L"App", L"Text", list({L"kept"})));
     EXPECT_FALSE(readValue(L"App", L"Number", COrxString(L"kept")));
     EXPECT_FALSE(readValue(L"App", L"Missing", COrxString(L"kept")));
 
@@ -109,10 +104,10 @@ TEST_F(RegistryTest, ReadsFallBackToTheMachineHiveAndWritesStayWithTheUser) {
         ASSERT_NE(machine.get(), nullptr);
         ORX::regWrite(machine, L"Shared", L"machine", false);
         ORX::regWrite(machine, L"Number", 1ul);
-        ORX::regWrite(machine, L"List", listOf({L"machine"}));
+        ORX::regWrite(machine, L"List", list({L"machine"}));
     }
     EXPECT_EQ(readValue<COrxString>(L"App", L"Sub\\Shared"), L"machine");
-    EXPECT_EQ(readValue<List>(L"App", L"Sub\\List"), listOf({L"machine"}));
+    EXPECT_EQ(readValue<List>(L"App", L"Sub\\List"), list({L"machine"}));
 
     ASSERT_TRUE(ORX::regWrite(L"App", L"Sub\\Shared", L"user", false));
     ASSERT_TRUE(ORX::regWrite(L"App", L"Sub\\Number", L"not a number", false));
@@ -138,7 +133,7 @@ TEST_F(RegistryTest, NullTextEmptyListAndDelValueDeleteTheValue) {
     EXPECT_FALSE(readValue<COrxString>(L"App", L"Text"));
     EXPECT_FALSE(ORX::regWrite(L"App", L"Text", nullptr, false));  // nothing left to delete
 
-    ASSERT_TRUE(ORX::regWrite(L"App", L"List", listOf({L"x"})));
+    ASSERT_TRUE(ORX::regWrite(L"App", L"List", list({L"x"})));
     ASSERT_TRUE(ORX::regWrite(L"App", L"List", List()));
     EXPECT_FALSE(readValue<List>(L"App", L"List"));
 
@@ -184,10 +179,10 @@ TEST_F(RegistryTest, OpenKeyNumberReadAcceptsAnyTypeUpTo64Characters) {
 
 TEST_F(RegistryTest, ListsEndAtTheirFirstEmptyString) {
     Key key(ORX::regCreateKey(HKEY_CURRENT_USER, base()));
-    ASSERT_TRUE(ORX::regWrite(key, L"List", listOf({L"a", L"", L"b"})));
-    EXPECT_EQ(readValue(key, L"List", listOf({L"stale", L"stale"})), listOf({L"a"}));
-    ASSERT_TRUE(ORX::regWrite(key, L"List", listOf({L""})));
-    EXPECT_EQ(readValue(key, L"List", listOf({L"stale"})), List());
+    ASSERT_TRUE(ORX::regWrite(key, L"List", list({L"a", L"", L"b"})));
+    EXPECT_EQ(readValue(key, L"List", list({L"stale", L"stale"})), list({L"a"}));
+    ASSERT_TRUE(ORX::regWrite(key, L"List", list({L""})));
+    EXPECT_EQ(readValue(key, L"List", list({L"stale"})), List());
 }
 
 TEST_F(RegistryTest, CopyTreeOverwritesAtTheTopLevelOnly) {
@@ -196,7 +191,7 @@ TEST_F(RegistryTest, CopyTreeOverwritesAtTheTopLevelOnly) {
     ORX::regWrite(src, L"Top", L"src", false);
     ORX::regWrite(src, L"New", 1ul);
     ORX::regWrite(srcSub, L"Inner", L"src", false);
-    ORX::regWrite(Key(ORX::regCreateKey(srcSub, L"Deeper")), L"Leaf", listOf({L"src"}));
+    ORX::regWrite(Key(ORX::regCreateKey(srcSub, L"Deeper")), L"Leaf", list({L"src"}));
 
     for (bool const overwrite : {true, false}) {
         SCOPED_TRACE(overwrite ? "overwrite" : "keep");
@@ -210,7 +205,7 @@ TEST_F(RegistryTest, CopyTreeOverwritesAtTheTopLevelOnly) {
         EXPECT_EQ(readValue<unsigned long>(dst, L"New"), 1ul);
         EXPECT_EQ(textAt(dst, L"Sub", L"Inner"), L"dst");  // only the top level is overwritten
         EXPECT_EQ(readValue<List>(Key(ORX::regOpenKey(dst, L"Sub\\Deeper", false)), L"Leaf"),
-                  listOf({L"src"}));
+                  list({L"src"}));
     }
 }
 
