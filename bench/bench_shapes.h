@@ -45,9 +45,10 @@ inline OutlinePair circ(int n) {
     double const bulge = std::tan(ORX::kPi / (2 * n));
     auto const flat = [bulge](int) { return bulge; };
     COrxPoint3d const origin(0, 0, 0), moved(60, 0, 0);
-    return {outline(n, [&](int i) { return ORX::polar(origin, angleOf(i, n), kRadius); }, flat),
-            outline(n, [&](int i) { return ORX::polar(moved, angleOf(i + 0.37, n), kRadius); },
-                    flat)};
+    return {outline(
+                n, [&](int i) { return ORX::polar(origin, angleOf(i, n), kRadius); }, flat),
+            outline(
+                n, [&](int i) { return ORX::polar(moved, angleOf(i + 0.37, n), kRadius); }, flat)};
 }
 
 inline OutlinePair wavy(int n) {
@@ -58,17 +59,20 @@ inline OutlinePair wavy(int n) {
     };
     auto const bulge = [](int) { return 0.1; };
     COrxPoint3d const origin(0, 0, 0);
-    return {outline(n, [&](int i) { return ORX::polar(origin, angleOf(i, n), radius(i)); }, bulge),
-            outline(n, [&](int i) { return ORX::polar(origin, angleOf(i + 5.5, n), radius(i)); },
-                    bulge)};
+    return {
+        outline(
+            n, [&](int i) { return ORX::polar(origin, angleOf(i, n), radius(i)); }, bulge),
+        outline(
+            n, [&](int i) { return ORX::polar(origin, angleOf(i + 5.5, n), radius(i)); }, bulge)};
 }
 
 inline OutlinePair scal(int n) {
     auto const bulge = [](int i) { return i % 2 == 0 ? 0.2 : -0.2; };
     COrxPoint3d const origin(0, 0, 0);
-    return {outline(n, [&](int i) { return ORX::polar(origin, angleOf(i, n), kRadius); }, bulge),
-            outline(n, [&](int i) { return ORX::polar(origin, angleOf(i + 0.5, n), kRadius); },
-                    bulge)};
+    return {outline(
+                n, [&](int i) { return ORX::polar(origin, angleOf(i, n), kRadius); }, bulge),
+            outline(
+                n, [&](int i) { return ORX::polar(origin, angleOf(i + 0.5, n), kRadius); }, bulge)};
 }
 
 // A circle of radius r about c as two counter-clockwise half arcs.

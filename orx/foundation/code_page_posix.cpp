@@ -15,8 +15,8 @@
 //   which Windows maps to private-use characters, are undecodable for glibc.
 // - Encoding never substitutes a look-alike: a character counts as representable only when
 //   its bytes decode back to it.
-#include <cerrno>
 #include <iconv.h>
+#include <cerrno>
 
 #include <cstdint>
 #include <cstring>

@@ -1,6 +1,6 @@
 // Random bytes on Linux: getrandom(2), the kernel's random source.
-#include <cerrno>
 #include <sys/random.h>
+#include <cerrno>
 
 #include "orx/foundation/shared/random_bytes.h"
 

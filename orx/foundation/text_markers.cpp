@@ -1,5 +1,5 @@
-#include "orx/foundation/shared/index_range.h"
 #include "orx/foundation/text_markers.h"
+#include "orx/foundation/shared/index_range.h"
 
 #include <string>
 #include <string_view>
@@ -59,10 +59,8 @@ int longestMatch(std::wstring_view text, COrxArrayTempl<COrxString> const& from)
     int best = -1;
     std::size_t bestLength = 0;
     for (int k : ORX::internal::indices(from)) {
-        std::wstring_view const candidate(
-            from[k].isNull()
-                ? L""
-                : static_cast<wchar_t const*>(from[k]));
+        std::wstring_view const candidate(from[k].isNull() ? L""
+                                                           : static_cast<wchar_t const*>(from[k]));
         if (candidate.size() > bestLength && text.substr(0, candidate.size()) == candidate) {
             best = k;
             bestLength = candidate.size();

@@ -1,5 +1,5 @@
-#include "orx/foundation/shared/index_range.h"
 #include "orx/geom/map_double_to_point.h"
+#include "orx/foundation/shared/index_range.h"
 
 #include <climits>
 #include <cmath>

@@ -20,8 +20,7 @@ bool COrxPoint3dArray::ptInside(COrxPoint3d const& p) const {
     int crossings = 0;
     for (int i = 0; i < n; ++i) {
         COrxPoint3d hit;
-        if (ORX::internal::intersectLines(p, rayEnd, (*this)[i], (*this)[(i + 1) % n], true,
-                                          hit)) {
+        if (ORX::internal::intersectLines(p, rayEnd, (*this)[i], (*this)[(i + 1) % n], true, hit)) {
             ++crossings;
         }
     }

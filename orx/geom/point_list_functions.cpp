@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/matrix.h"
 #include "orx/geom/shared/angle_range.h"
 #include "orx/geom/shared/area_moments.h"
-#include "orx/geom/matrix.h"
 #include "orx/geom/tolerance.h"
 
 namespace ORX {

@@ -7,10 +7,10 @@
 
 #include "orx/plane_geometry/bulge_segment.h"
 #include "orx/plane_geometry/bulges.h"
-#include "orx/plane_geometry/shared/arc_frame.h"
-#include "orx/plane_geometry/shared/curve.h"
 #include "orx/plane_geometry/intersections.h"
 #include "orx/plane_geometry/lines.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/plane_geometry/shared/curve.h"
 
 namespace ORX {
 

@@ -3,11 +3,11 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/bulges.h"
+#include "orx/plane_geometry/internal/exact_sign.h"
 #include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/plane_geometry/shared/bulge_sweep.h"
-#include "orx/plane_geometry/internal/exact_sign.h"
-#include "orx/geom/shared/finite.h"
 
 namespace ORX {
 

@@ -3,12 +3,12 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/geom/vector.h"
-#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/geom/shared/finite.h"
+#include "orx/geom/vector.h"
 #include "orx/plane_geometry/internal/three_points.h"
 #include "orx/plane_geometry/lines.h"
 #include "orx/plane_geometry/points.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 
 namespace ORX {
 

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/angles.h"
 #include "orx/geom/shared/finite.h"
+#include "orx/plane_geometry/angles.h"
 
 namespace ORX {
 

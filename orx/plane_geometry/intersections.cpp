@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/angles.h"
 #include "orx/plane_geometry/bulges.h"
-#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/lines.h"
 #include "orx/plane_geometry/points.h"
 

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "orx/geom/functions.h"
+#include "orx/geom/shared/finite.h"
 #include "orx/geom/vector.h"
 #include "orx/plane_geometry/angles.h"
-#include "orx/geom/shared/finite.h"
 #include "orx/plane_geometry/internal/three_points.h"
 #include "orx/plane_geometry/intersections.h"
 #include "orx/plane_geometry/points.h"

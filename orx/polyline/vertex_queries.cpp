@@ -3,8 +3,8 @@
 #include <initializer_list>
 
 #include "orx/geom/functions.h"
-#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/plane_geometry/plane_geometry.h"
+#include "orx/plane_geometry/shared/arc_frame.h"
 #include "orx/polyline/vertex.h"
 
 bool COrxVertex::isPoint(COrxPoint3d const& p) const {

@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "orx/foundation/shared/index_range.h"
-#include "orx/polyline/shared/loop_moments.h"
 #include "orx/polyline/polyline_functions.h"
+#include "orx/polyline/shared/loop_moments.h"
 #include "orx/profiles/internal/outline_generators.h"
 
 namespace ORX {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "orx/polyline/polyline_functions.h"
 #include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/shared/segment_grid.h"
-#include "orx/polyline/polyline_functions.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/region.h"
 

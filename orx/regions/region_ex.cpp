@@ -1,7 +1,7 @@
 // The extended forms of the boolean and region operations: the plain operations on the
 // polylines, results converted back with default attributes.
-#include "orx/regions/bool_operation.h"
 #include "orx/foundation/shared/index_range.h"
+#include "orx/regions/bool_operation.h"
 #include "orx/regions/region.h"
 #include "orx/regions/region_building.h"
 #include "orx/regions/region_lists.h"

@@ -1,5 +1,5 @@
-#include "orx/foundation/shared/index_range.h"
 #include "orx/regions/region_lists.h"
+#include "orx/foundation/shared/index_range.h"
 
 namespace {
 

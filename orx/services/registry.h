@@ -18,8 +18,8 @@
 // Linux: the same keys and values in one SQLite database per hive, shared safely by any
 // number of threads and processes (every write one BEGIN IMMEDIATE transaction with
 // synchronous=FULL, a busy timeout of ORX::kRegistryBusyTimeoutMs; the user's hive keeps a
-// write-ahead log, the machine and classes hives a rollback journal, see below). Key and value names
-// compare case-insensitively (simple Unicode upper-casing) and keep the spelling they were
+// write-ahead log, the machine and classes hives a rollback journal, see below). Key and value
+// names compare case-insensitively (simple Unicode upper-casing) and keep the spelling they were
 // created with; sub-keys and values enumerate in that case-insensitive name order. The
 // databases live in the directory named by the environment variable ORX_REGISTRY_DIR
 // (user.db, machine.db and classes.db), read at every call; when it is unset or empty:

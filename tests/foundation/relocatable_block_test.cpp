@@ -44,9 +44,9 @@ struct NoMemory {
 }  // namespace orx_test
 
 template class COrxArrayTempl<orx_test::Scarce>;
+using ORX::internal::grownCapacity;
 using orx_test::NoMemory;
 using orx_test::Scarce;
-using ORX::internal::grownCapacity;
 
 TEST(RelocatableBlockTest, GrowthDoublesFromEightUntilTheLimitIsNear) {
     std::uint64_t const intLimit = INT_MAX;

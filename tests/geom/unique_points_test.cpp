@@ -47,8 +47,8 @@ TEST(UniquePointsTest, EqualsAppendUniqPointForPointAndInOrder) {
         for (int k = 0; k < plain.len(); ++k) {
             COrxPoint3d const& a = plain[k];
             COrxPoint3d const& b = filed[k];
-            bool const same = (a.x == b.x || (std::isnan(a.x) && std::isnan(b.x))) &&
-                              a.y == b.y && a.z == b.z;
+            bool const same =
+                (a.x == b.x || (std::isnan(a.x) && std::isnan(b.x))) && a.y == b.y && a.z == b.z;
             EXPECT_TRUE(same) << "round " << round << ", point " << k << ": "
                               << ::testing::PrintToString(a) << " against "
                               << ::testing::PrintToString(b);

@@ -42,9 +42,11 @@ TEST(SiteCoordinatesTest, LinesThroughACircleMeetItTwiceFarFromTheOrigin) {
             P const c = moved(random.point(50), offset);
             double const r = random.uniform(0.1, 100);
             // A line through a point well inside the circle, in any direction.
-            P const inside = ORX::polar(c, random.uniform(0, ORX::kTwoPi), 0.9 * r * random.uniform(0, 1));
+            P const inside =
+                ORX::polar(c, random.uniform(0, ORX::kTwoPi), 0.9 * r * random.uniform(0, 1));
             double const direction = random.uniform(0, ORX::kTwoPi);
-            P const p1 = ORX::polar(inside, direction, 1), p2 = ORX::polar(inside, direction + ORX::kPi, 1);
+            P const p1 = ORX::polar(inside, direction, 1),
+                    p2 = ORX::polar(inside, direction + ORX::kPi, 1);
             COrxPoint3dArray pts;
             ORX::g_cli0(pts, c, r, p1, p2);
             found += pts.len() == 2 ? 1 : 0;
@@ -60,7 +62,8 @@ TEST(SiteCoordinatesTest, SegmentMeetingPointsMoveWithTheSegments) {
     Random random(5u);
     int agreeing = 0, cases = 0;
     for (int k = 0; k < 400; ++k) {
-        P const s1 = random.point(3), e1 = random.point(3), s2 = random.point(3), e2 = random.point(3);
+        P const s1 = random.point(3), e1 = random.point(3), s2 = random.point(3),
+                e2 = random.point(3);
         double const b1 = k % 3 == 0 ? 0.0 : random.uniform(-1.5, 1.5);
         double const b2 = k % 4 == 0 ? 0.0 : random.uniform(-1.5, 1.5);
         COrxPoint3dArray here;

@@ -62,7 +62,7 @@ int runOutline(int code, std::string const& dimsText, std::string const& offsetT
             throw ToolError("profile code " + std::to_string(code) +
                             ": the offset moves the outline beyond the range of numbers");
         }
-        std::string const given = dims.empty() ? std::string("no dimensions given")
+        std::string const given = dims.empty()        ? std::string("no dimensions given")
                                   : sample != nullptr ? describeDims(*sample, dims)
                                                       : std::string();
         throw ToolError("profile code " + std::to_string(code) +

@@ -93,7 +93,8 @@ bool intersectLines(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d co
         along = ((c.x - a.x) * fy - (c.y - a.y) * fx) / (ex * fy - ey * fx);
     }
     COrxPoint3d const hit(a.x + along * (b.x - a.x), a.y + along * (b.y - a.y), a.z);
-    if (!hit.isValid() || (bounded && !(pointOnSegment(p1, p2, hit) && pointOnSegment(p3, p4, hit)))) {
+    if (!hit.isValid() ||
+        (bounded && !(pointOnSegment(p1, p2, hit) && pointOnSegment(p3, p4, hit)))) {
         return false;
     }
     out = hit;

@@ -4,8 +4,8 @@
 #ifndef ORX_POLYLINE_SHARED_LOOP_MOMENTS_H
 #define ORX_POLYLINE_SHARED_LOOP_MOMENTS_H
 
-#include "orx/geom/shared/area_moments.h"
 #include "orx/geom/point.h"
+#include "orx/geom/shared/area_moments.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {

@@ -7,8 +7,8 @@
 
 #include <string>
 
-#include "orx/services/internal/calendar.h"
 #include "orx/foundation/internal/utf8.h"
+#include "orx/services/internal/calendar.h"
 
 namespace ORX::internal {
 namespace {

@@ -7,9 +7,9 @@
 #include <cstring>
 #include <string>
 
+#include "orx/foundation/internal/utf8.h"
 #include "orx/services/com.h"
 #include "orx/services/internal/com_server.h"
-#include "orx/foundation/internal/utf8.h"
 
 namespace ORX {
 namespace {

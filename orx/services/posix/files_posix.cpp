@@ -1,8 +1,8 @@
 // The file-system calls of the services on Linux: POSIX calls on UTF-8 paths.
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
 
 #include <algorithm>
 #include <cstdlib>
@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "orx/foundation/internal/utf8.h"
 #include "orx/services/internal/file_system.h"
 #include "orx/services/posix/mount_table.h"
-#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 

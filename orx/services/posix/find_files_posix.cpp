@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "orx/foundation/internal/utf8.h"
 #include "orx/foundation/string.h"
 #include "orx/services/internal/file_system.h"
-#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -5,8 +5,8 @@
 #include <cwchar>
 #include <string>
 
-#include "orx/services/internal/registry_api.h"
 #include "orx/foundation/internal/utf8.h"
+#include "orx/services/internal/registry_api.h"
 
 namespace ORX::internal {
 namespace {

@@ -11,8 +11,8 @@
 #include <thread>
 #include <vector>
 
-#include "orx/services/posix/command_line.h"
 #include "orx/foundation/internal/utf8.h"
+#include "orx/services/posix/command_line.h"
 #include "orx/services/process.h"
 
 extern char** environ;

@@ -40,8 +40,7 @@ CREATE TABLE IF NOT EXISTS vals(
 
 // The tables, the root key (unnamed, without a parent) and the schema's version.
 std::string schemaText() {
-    return std::string(kTables) +
-           "INSERT OR IGNORE INTO keys(id, parent, name, folded) VALUES(" +
+    return std::string(kTables) + "INSERT OR IGNORE INTO keys(id, parent, name, folded) VALUES(" +
            std::to_string(RegistryHive::kRootKey) + ", NULL, '', '');\n" +
            "PRAGMA user_version = " + std::to_string(kSchemaVersion) + ";\n";
 }

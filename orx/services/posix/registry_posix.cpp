@@ -15,11 +15,11 @@
 #include <utility>
 #include <vector>
 
+#include "orx/foundation/internal/utf8.h"
 #include "orx/foundation/string.h"
 #include "orx/services/internal/registry_api.h"
 #include "orx/services/posix/registry_hive.h"
 #include "orx/services/posix/registry_location.h"
-#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include "orx/foundation/internal/utf8.h"
 #include "orx/services/internal/version_strings.h"
 #include "orx/services/posix/elf_section.h"
-#include "orx/foundation/internal/utf8.h"
 
 namespace ORX::internal {
 namespace {
