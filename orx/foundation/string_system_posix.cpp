@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "orx/foundation/internal/string_platform.h"
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 
 extern char** environ;
 

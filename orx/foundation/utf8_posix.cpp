@@ -1,4 +1,4 @@
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 
 namespace ORX::internal {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 
 using ORX::internal::fromUtf8;
 using ORX::internal::toUtf8;

@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/internal/calendar.h"
 
 namespace ORX::internal {

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <string>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/com.h"
 #include "orx/services/internal/com_server.h"
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/internal/file_system.h"
 #include "orx/services/posix/mount_table.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/foundation/string.h"
 #include "orx/services/internal/file_system.h"
 

@@ -5,7 +5,7 @@
 #include <cwchar>
 #include <string>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/internal/registry_api.h"
 
 namespace ORX::internal {

@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/posix/command_line.h"
 #include "orx/services/process.h"
 

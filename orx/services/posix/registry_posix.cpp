@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/foundation/string.h"
 #include "orx/services/internal/registry_api.h"
 #include "orx/services/posix/registry_hive.h"

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "orx/foundation/internal/utf8.h"
+#include "orx/foundation/shared/utf8.h"
 #include "orx/services/internal/version_strings.h"
 #include "orx/services/posix/elf_section.h"
 

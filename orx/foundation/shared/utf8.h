@@ -7,8 +7,8 @@
 // values may hold, become U+DC80..U+DCFF (one per byte) and turn back into the same bytes.
 // (The code-page conversions of COrxString keep Windows' answers instead, U+FFFD, since they
 // convert text, not names.)
-#ifndef ORX_FOUNDATION_INTERNAL_UTF8_H
-#define ORX_FOUNDATION_INTERNAL_UTF8_H
+#ifndef ORX_FOUNDATION_SHARED_UTF8_H
+#define ORX_FOUNDATION_SHARED_UTF8_H
 
 #include <string>
 #include <string_view>
@@ -21,4 +21,4 @@ std::string toUtf8(std::wstring_view text);
 
 }  // namespace ORX::internal
 
-#endif  // ORX_FOUNDATION_INTERNAL_UTF8_H
+#endif  // ORX_FOUNDATION_SHARED_UTF8_H
