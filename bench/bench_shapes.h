@@ -6,7 +6,7 @@
 //   wavy: a circle whose radius waves N/10 times, against the same turned by 5.5 segments:
 //         about N/5 crossings;
 //   scal: a circle of arcs bulging out and in by turns, against the same turned by half a
-//         segment: 2N crossings;
+//         segment: N crossings, one in the second half of every segment;
 //   plate: a 1,000 x 1,000 square with n holes of radius 2 (two half arcs each) on a grid.
 #ifndef ORX_BENCH_BENCH_SHAPES_H
 #define ORX_BENCH_BENCH_SHAPES_H

@@ -88,7 +88,21 @@ COrxVector3d& COrxVector3d::operator*=(double const (*m)[4]) {
 }
 
 double COrxVector3d::abs() const {
-    return std::sqrt(x * x + y * y + z * z);
+    double const squares = x * x + y * y + z * z;
+    if (squares > 1e-290 && squares < 1e300) {
+        return std::sqrt(squares);  // nothing overflowed or lost its bits below the normals
+    }
+    if (std::isnan(squares)) {
+        return squares;
+    }
+    // Lengths beyond 1e150 or below 1e-145: measured in units of the largest component, so
+    // that a vector of 1e300 has the length 1e300, not an overflow.
+    double const largest = std::fmax(std::fabs(x), std::fmax(std::fabs(y), std::fabs(z)));
+    if (largest == 0.0 || std::isinf(largest)) {
+        return largest;
+    }
+    double const ux = x / largest, uy = y / largest, uz = z / largest;
+    return largest * std::sqrt(ux * ux + uy * uy + uz * uz);
 }
 
 COrxVector3d& COrxVector3d::normalize() {

@@ -66,6 +66,9 @@ int chordSide(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p
 // positive bulge) and inside the circle.
 bool inCircularSegment(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
                        COrxPoint3d const& p) {
+    if (std::fabs(bulge) < internal::kFlatBulge) {
+        return false;  // the arc is its chord: no area between them
+    }
     double const sign = bulge > 0.0 ? 1.0 : -1.0;
     if (sign * chordSide(p1, p2, p) >= 0) {
         return false;

@@ -92,7 +92,11 @@ COrxPoint3d g_bulg_mid(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulg
     if (bulge == 0.0 || p1 == p2) {
         return mid;
     }
-    return mid - (COrxVector3d::kZAxis * (p2 - p1)) * (bulge / 2);
+    COrxPoint3d const point = mid - (COrxVector3d::kZAxis * (p2 - p1)) * (bulge / 2);
+    // A huge bulge on a long chord puts the point beyond the range of numbers: no answer.
+    return point.isValid() || !internal::allValid(p1, p2) || !std::isfinite(bulge)
+               ? point
+               : internal::nanPoint();
 }
 
 COrxPoint3d g_arc_mid(COrxPoint3d const& c, double r, double a0, double a1) {

@@ -49,8 +49,10 @@ double g_aabs(COrxPoint3d const& p1, COrxPoint3d const& p2, COrxPoint3d const& p
     if (!(length > COrxPoint3d::tol)) {
         return g_dist2d(p1, p3);
     }
-    double const cross = (p2.x - p1.x) * (p3.y - p1.y) - (p2.y - p1.y) * (p3.x - p1.x);
-    return std::fabs(cross) / length;
+    // Across the unit direction, so that long lines and far points do not overflow the
+    // product.
+    double const ux = (p2.x - p1.x) / length, uy = (p2.y - p1.y) / length;
+    return internal::finiteOrNan(std::fabs(ux * (p3.y - p1.y) - uy * (p3.x - p1.x)));
 }
 
 COrxPoint3d g_p_rnd(COrxPoint3d const& p, double step) {

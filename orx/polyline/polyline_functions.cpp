@@ -21,6 +21,9 @@ int innerPointCount(COrxVertex const& v, int n, double theta) {
     if (n < 1) {
         return g_bulg_split(v);
     }
+    if (std::isnan(theta)) {
+        return 1;  // a NaN bulge: one point (of NaN) carries it into the result
+    }
     double const pieces = std::fabs(std::trunc(n * theta / kPi));
     if (!(pieces < kMaxArcPieces)) {
         return kMaxArcPieces;
@@ -88,7 +91,7 @@ double g_vl_area(COrxVertexArray const& vl) {
         total += (a.x * b.y - b.x * a.y) / 2;
         total += g_bulg_area(v.startPoint(), v.endPoint(), v.bulge());
     }
-    return total;
+    return std::isfinite(total) ? total : ORX::nan();  // an overflow is no answer
 }
 
 namespace {

@@ -13,7 +13,8 @@ namespace ORX {
 // The polyline with every arc replaced by straight pieces through points on the arc: k
 // inner points per arc, k = |trunc(n * theta / pi)| raised to at least 2 (n counts pieces
 // per half circle), or g_bulg_split (2) when n < 1. The result is rebuilt from the points,
-// closed only when its first and last points coincide. Empty in, empty out.
+// closed only when its first and last points coincide. Empty in, empty out. An arc with a
+// NaN bulge gets one inner point, of NaN coordinates.
 ORX_API COrxVertexArray g_vl_expl(COrxVertexArray const& vl, int n);
 
 // True when the closed polyline runs counter-clockwise seen from the side the normal points

@@ -81,24 +81,23 @@ COrxVertexArray& COrxVertexArray::operator+=(COrxVertexArray const& other) {
 
 int COrxVertexArray::setLength(int n) {
     int const used = len();
-    if (n > capacity()) {
-        int const newCapacity = nextCapacity(capacity(), n);
-        if (!reallocate(newCapacity, used)) {
-            return used;  // out of memory: nothing changed
-        }
+    bool const grows = n > capacity();
+    if (grows && !reallocate(nextCapacity(capacity(), n), used)) {
+        return used;  // out of memory: nothing changed
     }
     COrxArray::setLength(n);
-    if (len() > used) {
-        resetSlots(used, len());
+    if (!grows && len() > used) {
+        resetSlots(used, len());  // a new block holds fresh segments already
     }
     return len();
 }
 
 int COrxVertexArray::setLogicalLength(int n) {
-    int const used = len();
-    if (n > capacity() && setLength(n) != n) {
-        return used;
+    if (n > capacity()) {
+        int const used = len();
+        return setLength(n) == n ? n : used;  // setLength sets the logical length too
     }
+    int const used = len();
     COrxArray::setLogicalLength(n);
     if (len() > used) {
         resetSlots(used, len());

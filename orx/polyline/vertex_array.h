@@ -55,8 +55,9 @@ public:
     COrxVertex& operator[](int i);
     COrxVertex const& operator[](int i) const;
     // The segments as one block, len() of them (null when empty): for passes over all
-    // segments that need no index rules.
+    // segments that need no index rules. Valid until the length or the capacity changes.
     COrxVertex const* data() const { return m_vertices; }
+    COrxVertex* data() { return m_vertices; }
 
     // --- Building and editing ---
     COrxVertexArray& append(COrxVertex const& v);
@@ -170,6 +171,10 @@ private:
     // closing joint when the polyline was closed); then close what gaps remain.
     void trimJoints(bool closed);
     void closeGaps(bool closed, bool bridgeGaps);
+    // Keeps the segments (and their directions) for which keep(segment, direction) holds;
+    // true when some were removed.
+    template <class Keep>
+    bool keepSegments(COrxArrayTempl<COrxVector3d>& directions, Keep keep);
     static COrxVertex& sharedDefault();
     static COrxVertex const& sharedConstDefault();
 

@@ -11,7 +11,10 @@ COrxVertexArray& COrxVertexArray::append(COrxVertex const& v) {
         return append(copy);
     }
     int const index = len();
-    if (setLogicalLength(index + 1) == index + 1) {
+    if (index < capacity()) {
+        COrxArray::setLogicalLength(index + 1);  // the slot is overwritten: no reset first
+        m_vertices[index] = v;
+    } else if (setLogicalLength(index + 1) == index + 1) {
         m_vertices[index] = v;
     }
     return *this;

@@ -21,10 +21,6 @@ bool turnedOver(COrxVertex const& v, COrxVector3d const& before) {
     return ORX::sprod(v.endPoint() - v.startPoint(), before) < 0.0;
 }
 
-}  // namespace
-
-namespace {
-
 // Every coordinate and bulge is a finite number.
 bool allFinite(COrxVertexArray const& vl) {
     for (int k = 0; k < vl.len(); ++k) {
@@ -65,24 +61,16 @@ COrxVertexArray& COrxVertexArray::offset(COrxArrayTempl<double> const& distances
             m_vertices[k].offset(distanceFor(distances, k));
         }
     }
-    for (int k = len() - 1; k >= 0; --k) {
-        if (!(m_vertices[k].bulgLen() > COrxPoint3d::tol)) {
-            remove(static_cast<unsigned int>(k), false);
-            directions.removeAt(static_cast<unsigned long>(k));
-        }
-    }
+    keepSegments(directions, [](COrxVertex const& v, COrxVector3d const&) {
+        return v.bulgLen() > COrxPoint3d::tol;
+    });
     trimJoints(closed);
     // Trimming can turn a short segment over; remove those and trim their neighbours to each
     // other, until none is left. Every pass removes a segment, so this ends.
     for (bool removed = true; removed;) {
-        removed = false;
-        for (int k = len() - 1; k >= 0; --k) {
-            if (turnedOver(m_vertices[k], directions[k])) {
-                remove(static_cast<unsigned int>(k), false);
-                directions.removeAt(static_cast<unsigned long>(k));
-                removed = true;
-            }
-        }
+        removed = keepSegments(directions, [](COrxVertex const& v, COrxVector3d const& before) {
+            return !turnedOver(v, before);
+        });
         if (removed) {
             trimJoints(closed);
         }
@@ -104,18 +92,49 @@ void COrxVertexArray::trimJoints(bool closed) {
     }
 }
 
-void COrxVertexArray::closeGaps(bool closed, bool bridgeGaps) {
-    int const joints = closed ? len() : len() - 1;
-    for (int k = joints - 1; k >= 0; --k) {
-        COrxVertex& v = m_vertices[k];
-        COrxVertex& next = m_vertices[(k + 1) % len()];
-        if (v.endPoint() == next.startPoint()) {
-            continue;
-        }
-        ORX::g_vx_trim(v, next);
-        if (bridgeGaps && v.endPoint() != next.startPoint()) {
-            insertAt(static_cast<unsigned int>(k + 1),
-                     COrxVertex(v.endPoint(), next.startPoint(), 0.0));
+template <class Keep>
+bool COrxVertexArray::keepSegments(COrxArrayTempl<COrxVector3d>& directions, Keep keep) {
+    // One pass that moves the kept segments together, with their directions: the same as
+    // removing the others one by one, without moving the rest each time.
+    int kept = 0;
+    for (int k = 0; k < len(); ++k) {
+        if (keep(m_vertices[k], directions[k])) {
+            if (kept != k) {
+                m_vertices[kept] = m_vertices[k];
+                directions[kept] = directions[k];
+            }
+            ++kept;
         }
     }
+    bool const removed = kept < len();
+    setLogicalLength(kept);
+    directions.setLogicalLength(static_cast<unsigned long>(kept));
+    return removed;
+}
+
+void COrxVertexArray::closeGaps(bool closed, bool bridgeGaps) {
+    // Every gap trimmed, from the last joint back, then where trimming could not close it a
+    // bridge put in after the segment, in one pass over a copy rather than one insertion each.
+    int const n = len();
+    int const joints = closed ? n : n - 1;
+    for (int k = joints - 1; k >= 0; --k) {
+        COrxVertex& v = m_vertices[k];
+        COrxVertex& next = m_vertices[(k + 1) % n];
+        if (v.endPoint() != next.startPoint()) {
+            ORX::g_vx_trim(v, next);
+        }
+    }
+    COrxVertexArray bridged;
+    bridged.setLogicalLength(2 * n);
+    bridged.setLogicalLength(0);
+    for (int k = 0; k < n; ++k) {
+        bridged.append(m_vertices[k]);
+        COrxVertex const& next = m_vertices[(k + 1) % n];
+        if (bridgeGaps && k < joints && m_vertices[k].endPoint() != next.startPoint()) {
+            bridged.append(COrxVertex(m_vertices[k].endPoint(), next.startPoint(), 0.0));
+        }
+    }
+    COrxVector3d const normal = m_normal;
+    *this = bridged;
+    m_normal = normal;
 }

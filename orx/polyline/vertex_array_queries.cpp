@@ -78,7 +78,7 @@ double COrxVertexArray::geomLength() const {
     for (int k = 0; k < len(); ++k) {
         length += m_vertices[k].bulgLen();
     }
-    return length;
+    return std::isfinite(length) ? length : ORX::nan();  // an overflow is no answer
 }
 
 bool COrxVertexArray::distAtPoint(double& d, COrxPoint3d const& p) const {
@@ -87,7 +87,7 @@ bool COrxVertexArray::distAtPoint(double& d, COrxPoint3d const& p) const {
         double along = 0.0;
         if (m_vertices[k].distAtPoint(along, p)) {
             d = before + along;
-            return true;
+            return std::isfinite(d);  // the length up to the point overflowed: no answer
         }
         before += m_vertices[k].bulgLen();
     }

@@ -19,7 +19,6 @@
 #include "orx/regions/internal/loop_grouping.h"
 #include "orx/regions/internal/overlay.h"
 #include "orx/regions/internal/ray_test.h"
-#include "orx/regions/internal/winding_index.h"
 
 namespace ORX {
 

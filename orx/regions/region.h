@@ -72,6 +72,10 @@ ORX_API COrxArrayTempl<COrxVertexArray> g_vl_vll(COrxVertexArray const& vl);
 // midpoint of a loop's first segment): loops of even depth are outer loops, each starting a
 // region (by depth, then by index); a loop of odd depth is a hole of the innermost outer
 // loop that contains it, and is dropped when none does. Holes keep their index order.
+// A loop is asked only about points inside its box: the point tests that are skipped would
+// have answered false, so the regions are those of asking every loop, but rand() (drawn when
+// a ray passes through a segment end) is called less often, and a caller that seeds it for
+// repeatable runs finds it in another state afterwards.
 ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> g_vll_region(
     COrxArrayTempl<COrxVertexArray> const& loops);
 

@@ -36,6 +36,9 @@ ORX_API bool g_vl_vl_inside(COrxVertexArray const& i, COrxVertexArray const& j);
 //   in index order (unless kRegionsDropIslands, which sets it aside).
 // Higher flag bits are ignored. When the containment cannot be reduced to direct containers
 // (contradictory nesting from degenerate loops), the result is empty.
+// Only loops whose boxes overlap are intersected and tested for containment; the pairs
+// skipped can neither meet nor contain one another, so the regions are those of asking every
+// pair, but rand() (drawn by the point test's restarts) is called less often.
 ORX_API COrxArrayTempl<COrxArrayTempl<COrxVertexArray>> g_vll_regions(
     COrxArrayTempl<COrxVertexArray> const& loops, unsigned long flags);
 

@@ -30,7 +30,8 @@ TEST(OrxVersionTest, VersionFlagAndHelpCommand) {
     EXPECT_EQ(run.out, "2017.0\n");
     run = scratch.orx({"help"});
     EXPECT_EQ(run.status, 0);
-    for (char const* command : {"outline", "bool", "region", "info", "offset", "convert"}) {
+    for (char const* command :
+         {"outline", "bool", "region", "info", "locate", "offset", "convert"}) {
         EXPECT_NE(run.out.find(std::string("  ") + command + " "), std::string::npos) << command;
     }
 }

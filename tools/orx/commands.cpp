@@ -10,6 +10,7 @@
 #include "orx/services/version.h"
 #include "region_operations.h"
 #include "safe_measures.h"
+#include "section_report.h"
 #include "shape_info.h"
 #include "tool_error.h"
 
@@ -59,8 +60,22 @@ COrxVertexArray::boolOper boolOperation(std::string const& name) {
     throw ToolError("unknown operation '" + name + "' (use union, diff or sect)");
 }
 
-// The regions of the drawing's closed loops; `layer` becomes the layer of the first
-// region's outer loop.
+void writePicture(std::string const& path, SvgPicture const& picture) {
+    std::string text;
+    try {
+        text = picture.svg();
+    } catch (ToolError const& e) {
+        throw ToolError(path + ": " + e.what());
+    }
+    writeFileText(path, text);
+}
+
+void reportWritten(std::string const& path, std::size_t count, char const* what) {
+    std::printf("%s: %s\n", path.c_str(), counted(count, what).c_str());
+}
+
+}  // namespace
+
 std::vector<Region> inputRegions(Drawing const& drawing, std::string& layer) {
     RegionGrouping grouping = groupRegions(drawing.polylines);
     if (grouping.regions.empty()) {
@@ -80,22 +95,6 @@ std::vector<Region> inputRegions(Drawing const& drawing, std::string& layer) {
     layer = drawing.layers[static_cast<std::size_t>(grouping.regions[0].sources[0])];
     return regions;
 }
-
-void writePicture(std::string const& path, SvgPicture const& picture) {
-    std::string text;
-    try {
-        text = picture.svg();
-    } catch (ToolError const& e) {
-        throw ToolError(path + ": " + e.what());
-    }
-    writeFileText(path, text);
-}
-
-void reportWritten(std::string const& path, std::size_t count, char const* what) {
-    std::printf("%s: %s\n", path.c_str(), counted(count, what).c_str());
-}
-
-}  // namespace
 
 int runVersion() {
     std::printf("%ls\n%s\n", ORX::version(), platformName());
@@ -178,6 +177,9 @@ int runInfo(std::string const& input) {
                 counted(grouping.regions.size(), "region").c_str());
     if (!drawing.contents.empty()) {
         std::printf("entities read: %s\n", drawing.contents.c_str());
+    }
+    if (!grouping.regions.empty() || !grouping.leftOut.empty()) {
+        std::fputs(sectionLegend().c_str(), stdout);
     }
     for (std::size_t i = 0; i < drawing.polylines.size(); ++i) {
         std::fputs(

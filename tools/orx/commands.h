@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "drawing.h"
+#include "shape_info.h"
 #include "svg_picture.h"
 
 namespace orxtool {
@@ -41,6 +42,15 @@ int runRender(std::vector<std::string> const& inputs, std::string const& output,
 
 // The gallery of profiles, booleans and regions in `directory`.
 int runDemo(std::string const& directory);
+
+// The closed polylines after the tool's grouping into regions (groupRegions, shape_info.h);
+// `layer` becomes the layer of the first region's outer loop. Says on standard error how
+// many polylines take no part; throws ToolError when no region results.
+std::vector<Region> inputRegions(Drawing const& drawing, std::string& layer);
+
+// Where each point ("X,Y") lies: inside, on the boundary of or outside the regions of the
+// file's closed loops, one line per point.
+int runLocate(std::string const& input, std::vector<std::string> const& points);
 
 // Shared by the commands and the gallery: closed loops grouped into filled regions, the
 // rest stroked, optionally with vertex markers.

@@ -26,7 +26,7 @@ using orxtool::kExitBadInput;
 struct Arguments {
     int code = 0;
     std::string dims, offset, operation, first, second, output, input, distance;
-    std::vector<std::string> inputs;
+    std::vector<std::string> inputs, points;
     bool markers = false;
     std::string directory = "orx-demo";
 };
@@ -94,6 +94,13 @@ void declareCommands(CLI::App& app, Arguments& args, std::function<int()>& run) 
     CLI::App* info = app.add_subcommand("info", "Report segments, lengths, areas and regions");
     info->add_option("FILE", args.input, "input (.dxf or .json)")->required();
     info->callback([&] { run = [&] { return orxtool::runInfo(args.input); }; });
+
+    CLI::App* locate =
+        app.add_subcommand("locate", "Tell whether points lie inside, on or outside the regions");
+    locate->add_option("FILE", args.input, "input (.dxf or .json)")->required();
+    locate->add_option("POINT", args.points, "points X,Y (negative numbers as written)")
+        ->required();
+    locate->callback([&] { run = [&] { return orxtool::runLocate(args.input, args.points); }; });
 
     CLI::App* offset = app.add_subcommand("offset", "Offset every polyline by a distance");
     offset->add_option("FILE", args.input, "input (.dxf or .json)")->required();

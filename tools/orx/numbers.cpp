@@ -101,4 +101,17 @@ std::string shortText(double value, int digits) {
     return std::string(buffer, result.ptr);
 }
 
+std::string reportText(double value) {
+    return shortText(value, kReportDigits);
+}
+
+std::string measureText(double value) {
+    return std::isinf(value) ? reportText(value) + " (beyond the range of doubles)"
+                             : reportText(value);
+}
+
+std::string pointText(double x, double y) {
+    return "(" + reportText(x) + ", " + reportText(y) + ")";
+}
+
 }  // namespace orxtool

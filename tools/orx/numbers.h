@@ -29,6 +29,19 @@ std::string exactText(double value);
 // Compact text for humans and pictures: `digits` significant digits, no trailing zeros.
 std::string shortText(double value, int digits);
 
+// Significant digits of the numbers in reports: enough to compare, few enough to read.
+constexpr int kReportDigits = 10;
+
+// A number of a report (`orx info`, `orx locate`): shortText with kReportDigits.
+std::string reportText(double value);
+
+// A measure of a report: a length, area or moment of finite coordinates may still exceed the
+// largest double, and then reads "inf (beyond the range of doubles)".
+std::string measureText(double value);
+
+// A point of a report: "(x, y)" in reportText.
+std::string pointText(double x, double y);
+
 }  // namespace orxtool
 
 #endif  // ORX_TOOL_NUMBERS_H

@@ -27,6 +27,8 @@ int scaleExponent(COrxVertexArray const& polyline) {
     return std::ilogb(largest) - kLargestExponent;
 }
 
+}  // namespace
+
 COrxPoint3d scaled(COrxPoint3d const& p, int exponent) {
     return COrxPoint3d(std::ldexp(p.x, exponent), std::ldexp(p.y, exponent),
                        std::ldexp(p.z, exponent));
@@ -41,8 +43,6 @@ COrxVertexArray scaledCopy(COrxVertexArray const& polyline, int exponent) {
     }
     return copy;
 }
-
-}  // namespace
 
 double safeArea(COrxVertexArray const& polyline) {
     int e = scaleExponent(polyline);

@@ -25,6 +25,14 @@ bool isCounterClockwise(COrxVertexArray const& polyline);
 // The tight axis-aligned box; false for an empty polyline.
 bool safeExtents(COrxVertexArray const& polyline, COrxPoint3d& lo, COrxPoint3d& hi);
 
+// The point with every coordinate multiplied by 2^exponent (exact unless it under- or
+// overflows).
+COrxPoint3d scaled(COrxPoint3d const& p, int exponent);
+
+// A copy of the polyline scaled by 2^exponent about the origin; bulges are kept, so arcs
+// stay the same arcs.
+COrxVertexArray scaledCopy(COrxVertexArray const& polyline, int exponent);
+
 }  // namespace orxtool
 
 #endif  // ORX_TOOL_SAFE_MEASURES_H

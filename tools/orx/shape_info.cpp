@@ -8,22 +8,11 @@
 #include "orx/polyline/polyline_functions.h"
 #include "orx/regions/region_building.h"
 #include "safe_measures.h"
+#include "section_report.h"
 
 namespace orxtool {
 
 namespace {
-
-// Digits of the numbers in reports: enough to compare, few enough to read.
-constexpr int kReportDigits = 10;
-
-std::string num(double v) {
-    return shortText(v, kReportDigits);
-}
-
-// A length or an area of finite coordinates may still exceed the largest double.
-std::string measureText(double v) {
-    return std::isinf(v) ? num(v) + " (beyond the range of doubles)" : num(v);
-}
 
 // Every segment carries its polyline's index + 1 as its tag, which the region building keeps
 // (tags travel with copies and reversals), so the regions can name their source polylines.
@@ -116,10 +105,12 @@ std::string polylineReport(int index, COrxVertexArray const& polyline, std::stri
     }
     COrxPoint3d lo, hi;
     if (safeExtents(polyline, lo, hi)) {
-        out << "  extents (" << num(lo.x) << ", " << num(lo.y) << ") - (" << num(hi.x) << ", "
-            << num(hi.y) << ")\n";
+        out << "  extents " << pointText(lo.x, lo.y) << " - " << pointText(hi.x, hi.y) << "\n";
     }
-    out << "  layer " << layer << ", elevation " << num(polyline[0].startPoint().z) << "\n";
+    out << "  layer " << layer << ", elevation " << reportText(polyline[0].startPoint().z) << "\n";
+    if (closed) {
+        out << sectionReport(polylineSection(polyline));
+    }
     return out.str();
 }
 
@@ -131,7 +122,7 @@ std::string collapseProblem(COrxVertexArray const& polyline) {
         COrxPoint3d const& a = polyline[i].startPoint();
         COrxPoint3d const& b = polyline[i].endPoint();
         if (a.x == b.x && a.y == b.y) {
-            return "has corners that fall onto one point (" + num(a.x) + ", " + num(a.y) + ")";
+            return "has corners that fall onto one point " + pointText(a.x, a.y);
         }
     }
     if (polyline.isClosed() && safeArea(polyline) == 0.0) {
@@ -150,6 +141,7 @@ std::string regionReport(int index, RegionGrouping::Entry const& entry) {
         }
     }
     out << ": area " << measureText(regionArea(entry.region)) << "\n";
+    out << sectionReport(regionSection(entry.region));
     return out.str();
 }
 

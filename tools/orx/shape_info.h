@@ -38,8 +38,9 @@ double regionArea(Region const& region);
 std::vector<COrxVertexArray> loopsOf(std::vector<Region> const& regions);
 
 // The `orx info` lines of polyline `index` (0-based): segments and arcs, closed or open,
-// length, signed area and orientation (closed only), extents, layer and elevation. Measured
-// without overflow up to the largest coordinates (safe_measures.h).
+// length, signed area and orientation (closed only), extents, layer and elevation, and the
+// section properties of a closed one. Measured without overflow up to the largest
+// coordinates (safe_measures.h, section_report.h).
 std::string polylineReport(int index, COrxVertexArray const& polyline, std::string const& layer);
 
 // Why a computed polyline is no usable shape, or an empty text when it is one: it has no
@@ -48,7 +49,7 @@ std::string polylineReport(int index, COrxVertexArray const& polyline, std::stri
 // area.
 std::string collapseProblem(COrxVertexArray const& polyline);
 
-// "region N: outer polyline A, holes B, C: area X".
+// "region N: outer polyline A, holes B, C: area X", then the region's section properties.
 std::string regionReport(int index, RegionGrouping::Entry const& entry);
 
 }  // namespace orxtool

@@ -42,13 +42,19 @@ void twoProduct(double a, double b, double& product, double& error) {
 class Expansion {
 public:
     void add(double value) {
+        // Grows the expansion by one value; the parts that come out zero are dropped, so the
+        // parts stay few (one sum has as many as its terms overlap) and each step is short.
+        int kept = 0;
         for (int k = 0; k < m_count; ++k) {
             double sum = 0.0, error = 0.0;
             twoSum(m_parts[k], value, sum, error);
-            m_parts[k] = error;
+            if (error != 0.0) {
+                m_parts[kept++] = error;
+            }
             value = sum;
         }
-        if (m_count < kCapacity) {
+        m_count = kept;
+        if (value != 0.0 && m_count < kCapacity) {
             m_parts[m_count++] = value;
         }
     }

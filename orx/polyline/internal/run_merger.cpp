@@ -105,10 +105,47 @@ bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
     return true;
 }
 
+// The arc's ends and midpoint lie within the tolerance of the circle of `frame` (as
+// COrxVertex::coLinear tests them, with the frame made once per arc).
+bool onCircle(COrxVertex const& arc, ArcFrame const& frame) {
+    if (!frame.valid()) {
+        return false;
+    }
+    double const within = COrxPoint3d::tol / frame.halfChord();
+    auto near = [&frame, within](double x, double y) {
+        return std::fabs(frame.circleDistance(frame.toFrame(x, y))) <= within;
+    };
+    COrxPoint3d const& s = arc.startPoint();
+    COrxPoint3d const& e = arc.endPoint();
+    double const b = arc.bulge();
+    return near(s.x, s.y) && near(e.x, e.y) &&
+           near((s.x + e.x) / 2 + (e.y - s.y) * (b / 2), (s.y + e.y) / 2 - (e.x - s.x) * (b / 2));
+}
+
+// next continues the run of arcs that ends with `last` (whose frame is given) and began at
+// `start`: they meet, turn the same way, lie on one circle, and do not close it.
+bool arcContinues(COrxVertex const& last, ArcFrame const& lastFrame, COrxVertex const& next,
+                  ArcFrame const& nextFrame, COrxPoint3d const& start) {
+    return !next.isStraight() && (last.bulge() > 0.0) == (next.bulge() > 0.0) &&
+           last.endPoint() == next.startPoint() && onCircle(next, lastFrame) &&
+           onCircle(last, nextFrame) && next.endPoint() != start;
+}
+
+ArcFrame frameOf(COrxVertex const& v) {
+    return ArcFrame(v.startPoint(), v.endPoint(), v.bulge());
+}
+
 Run arcRun(Sequence const& s, int maxCount) {
     std::vector<double> angles{angleOf(s.at(0))};  // prefix sums of the pieces' angles
     int count = 1;
-    while (count < maxCount && continues(s.at(count - 1), s.at(count), s.at(0).startPoint())) {
+    ArcFrame lastFrame = frameOf(s.at(0));
+    while (count < maxCount) {
+        ArcFrame const nextFrame = frameOf(s.at(count));
+        if (!arcContinues(s.at(count - 1), lastFrame, s.at(count), nextFrame,
+                          s.at(0).startPoint())) {
+            break;
+        }
+        lastFrame = nextFrame;
         double const angle = angles.back() + angleOf(s.at(count));
         if (!(std::fabs(angle) < kTwoPi)) {
             break;

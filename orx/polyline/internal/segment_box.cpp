@@ -114,8 +114,9 @@ SegmentBox segmentBox(COrxVertex const& v) {
 }
 
 double pruneMargin(SegmentBox const& box) {
-    double const size = std::max(
-        {std::fabs(box.xmin), std::fabs(box.ymin), std::fabs(box.xmax), std::fabs(box.ymax)});
+    // The largest magnitude of the coordinates: max(-min, max) on each axis. An inverted box
+    // (of nothing) gets a negative margin and so stays apart from everything.
+    double const size = std::max(std::max(-box.xmin, box.xmax), std::max(-box.ymin, box.ymax));
     return kMarginTolerances * COrxPoint3d::tol + kMarginRelative * size;
 }
 

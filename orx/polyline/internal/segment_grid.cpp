@@ -8,8 +8,10 @@ namespace internal {
 
 namespace {
 
-// About this many segments per cell, and at most this many cells per side.
-constexpr double kSegmentsPerCell = 2.0;
+// Cells this many times as wide and high as the average box, at most this many cells per
+// segment and this many per side.
+constexpr double kCellPerBox = 2.0;
+constexpr double kMaxCellsPerSegment = 8.0;
 constexpr int kMaxCellsPerSide = 2048;
 // A box spanning more cells than this goes to the always-tested list instead.
 constexpr long long kMaxCellsPerBox = 64;
@@ -45,27 +47,27 @@ int rowIndex(double value, int count) {
 SegmentGrid::SegmentGrid(std::vector<SegmentBox> const& boxes) {
     std::vector<SegmentBox> wide;
     wide.reserve(boxes.size());
-    bool any = false;
+    int finiteCount = 0;
     SegmentBox all{0, 0, 0, 0};
+    double widths = 0.0, heights = 0.0;
     for (SegmentBox const& box : boxes) {
         wide.push_back(wideBox(box));
         if (finite(wide.back())) {
             SegmentBox const& w = wide.back();
-            all = any ? SegmentBox{std::min(all.xmin, w.xmin), std::min(all.ymin, w.ymin),
+            all = finiteCount > 0
+                      ? SegmentBox{std::min(all.xmin, w.xmin), std::min(all.ymin, w.ymin),
                                    std::max(all.xmax, w.xmax), std::max(all.ymax, w.ymax)}
                       : w;
-            any = true;
+            widths += w.xmax - w.xmin;
+            heights += w.ymax - w.ymin;
+            ++finiteCount;
         }
     }
-    int const side =
-        std::clamp(static_cast<int>(
-                       std::ceil(std::sqrt(static_cast<double>(boxes.size()) / kSegmentsPerCell))),
-                   1, kMaxCellsPerSide);
-    m_nx = m_ny = any ? side : 0;
     m_x0 = all.xmin;
     m_y0 = all.ymin;
-    m_cellW = std::max((all.xmax - all.xmin) / side, 1e-300);
-    m_cellH = std::max((all.ymax - all.ymin) / side, 1e-300);
+    if (finiteCount > 0) {
+        chooseCells(all, widths / finiteCount, heights / finiteCount, finiteCount);
+    }
 
     // Two passes over the boxes: count per cell, then fill (compressed rows).
     std::vector<CellRange> ranges(wide.size());
@@ -102,6 +104,32 @@ SegmentGrid::SegmentGrid(std::vector<SegmentBox> const& boxes) {
             }
         }
     }
+}
+
+// Cells sized by the average box, not by the whole area: boxes along an outline fill a thin
+// band of its box, and cells as large as the area shared out among the segments would each
+// hold dozens of them there.
+void SegmentGrid::chooseCells(SegmentBox const& all, double meanWidth, double meanHeight,
+                              int count) {
+    double const width = all.xmax - all.xmin, height = all.ymax - all.ymin;
+    double cellW = std::max(kCellPerBox * meanWidth, width / kMaxCellsPerSide);
+    double cellH = std::max(kCellPerBox * meanHeight, height / kMaxCellsPerSide);
+    double const cells = std::ceil(width / cellW) * std::ceil(height / cellH);
+    double const allowed = kMaxCellsPerSegment * count;
+    if (cells > allowed) {
+        double const grow = std::sqrt(cells / allowed);
+        cellW *= grow;
+        cellH *= grow;
+    }
+    // Written so that NaN, infinite and zero sizes end in one cell per side.
+    auto countOf = [](double span, double cell) {
+        double const n = std::ceil(span / cell);
+        return n >= 1.0 ? static_cast<int>(std::min(n, double{kMaxCellsPerSide})) : 1;
+    };
+    m_nx = countOf(width, cellW);
+    m_ny = countOf(height, cellH);
+    m_cellW = std::max(width / m_nx, 1e-300);
+    m_cellH = std::max(height / m_ny, 1e-300);
 }
 
 bool SegmentGrid::cellRange(SegmentBox const& wide, CellRange& range) const {

@@ -1,4 +1,5 @@
-// A uniform grid over segment boxes, for finding the segments near a box or along a ray.
+// A uniform grid over segment boxes, with cells sized by the average box, for finding the
+// segments near a box or along a ray.
 //
 // Queries return a superset of the segments whose boxes may meet the query (the exact box
 // tests of segment_box.h decide), as ascending, unique indexes, so that callers can visit
@@ -28,6 +29,7 @@ private:
     struct CellRange {
         int x0, y0, x1, y1;
     };
+    void chooseCells(SegmentBox const& all, double meanWidth, double meanHeight, int count);
     bool cellRange(SegmentBox const& wide, CellRange& range) const;
     void collect(CellRange const& range, std::vector<int>& out) const;
     void addRow(int row, double xa, double xb, std::vector<int>& out) const;

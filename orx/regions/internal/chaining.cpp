@@ -1,38 +1,21 @@
 #include "orx/regions/internal/chaining.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
+#include <memory>
 #include <utility>
 #include <vector>
+
+#include "orx/regions/internal/point_cells.h"
 
 namespace ORX {
 namespace internal {
 
 namespace {
 
-// Cell numbers beyond this are folded together; only absurd coordinates get there.
-constexpr double kMaxCell = 1e15;
-
-std::int64_t cellNumber(double value, double width) {
-    double const n = std::floor(value / width);
-    if (!(n > -kMaxCell)) {
-        return static_cast<std::int64_t>(-kMaxCell);  // also NaN
-    }
-    return static_cast<std::int64_t>(std::min(n, kMaxCell));
-}
-
-// One number for a cell; different cells may share one, which only adds candidates (the
-// points are compared after).
-std::uint64_t cellKey(std::int64_t x, std::int64_t y) {
-    return static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15ull ^ static_cast<std::uint64_t>(y);
-}
-
 class Chainer {
 public:
     explicit Chainer(COrxVertexArray& vl)
-        : m_vl(vl),
-          m_width(2 * COrxPoint3d::tol),
+        : m_vl(vl.data()),
+          m_count(vl.len()),
           m_position(static_cast<std::size_t>(vl.len())),
           m_id(static_cast<std::size_t>(vl.len())) {
         for (int k = 0; k < vl.len(); ++k) {
@@ -40,27 +23,18 @@ public:
         }
     }
 
-    // The first position after i whose segment starts at p; the length when none does.
+    // The first position after i whose segment starts at p; the count when none does.
     int follower(int i, COrxPoint3d const& p) {
-        if (m_head.empty()) {
-            build();
+        if (!m_starts) {
+            fileStarts();
         }
-        int found = m_vl.len();
-        // Points within the tolerance of p lie in the two-by-two cells around it.
-        double const t = COrxPoint3d::tol;
-        std::int64_t const x0 = cellNumber(p.x - t, m_width), y0 = cellNumber(p.y - t, m_width);
-        std::int64_t const x1 = cellNumber(p.x + t, m_width), y1 = cellNumber(p.y + t, m_width);
-        for (std::int64_t x = x0; x <= x1; ++x) {
-            for (std::int64_t y = y0; y <= y1; ++y) {
-                for (int id = m_head[bucket(x, y)]; id >= 0;
-                     id = m_next[static_cast<std::size_t>(id)]) {
-                    int const at = m_position[static_cast<std::size_t>(id)];
-                    if (at > i && at < found && m_vl[at].startPoint() == p) {
-                        found = at;
-                    }
-                }
+        int found = m_count;
+        m_starts->forEachNear(p, [&](int id) {
+            int const at = m_position[static_cast<std::size_t>(id)];
+            if (at > i && at < found && m_vl[at].startPoint() == p) {
+                found = at;
             }
-        }
+        });
         return found;
     }
 
@@ -75,47 +49,32 @@ public:
     }
 
 private:
-    // The segments by the cell of their start, in a hash table of chained buckets, made on
-    // the first search: when the segments come in order, as the pieces of an operation
-    // mostly do, no search is needed. Starts never move, so the cells stay right; the
-    // segments are kept by their first position.
-    void build() {
-        std::size_t size = 16;
-        while (size < 2 * static_cast<std::size_t>(m_vl.len())) {
-            size *= 2;
-        }
-        m_head.assign(size, -1);
-        m_next.assign(static_cast<std::size_t>(m_vl.len()), -1);
-        for (int k = 0; k < m_vl.len(); ++k) {
-            COrxPoint3d const& p = m_vl[k].startPoint();
-            int const id = m_id[static_cast<std::size_t>(k)];
-            std::size_t const b = bucket(cellNumber(p.x, m_width), cellNumber(p.y, m_width));
-            m_next[static_cast<std::size_t>(id)] = m_head[b];
-            m_head[b] = id;
+    // The segments by their start, filed on the first search: when the segments come in
+    // order, as the pieces of an operation mostly do, no search is needed. Starts never
+    // move, so the cells stay right; the segments are filed by their first position.
+    void fileStarts() {
+        m_starts = std::make_unique<PointCells>(m_count);
+        for (int k = 0; k < m_count; ++k) {
+            m_starts->add(m_vl[k].startPoint(), m_id[static_cast<std::size_t>(k)]);
         }
     }
 
-    std::size_t bucket(std::int64_t x, std::int64_t y) const {
-        std::uint64_t const key = cellKey(x, y);
-        return static_cast<std::size_t>((key ^ (key >> 29)) & (m_head.size() - 1));
-    }
-
-    COrxVertexArray& m_vl;
-    double m_width;
+    COrxVertex* m_vl;  // the segments, stored in place
+    int m_count;
     std::vector<int> m_position;  // by first position: where the segment is now
     std::vector<int> m_id;        // by position: the segment's first position
-    std::vector<int> m_head;      // per bucket: the first segment in it, -1 for none
-    std::vector<int> m_next;      // per segment: the next one in its bucket
+    std::unique_ptr<PointCells> m_starts;
 };
 
 }  // namespace
 
-void chainHeadToTail(COrxVertexArray& vl) {
-    int const n = vl.len();
+void chainHeadToTail(COrxVertexArray& segments) {
+    int const n = segments.len();
     if (n < 2) {
         return;
     }
-    Chainer chainer(vl);
+    Chainer chainer(segments);
+    COrxVertex* vl = segments.data();
     for (int i = 1; i < n; ++i) {
         COrxPoint3d const end = vl[i - 1].endPoint();
         int const follower = vl[i].startPoint() == end ? i : chainer.follower(i, end);

@@ -103,6 +103,27 @@ void classify(Operand const& from, StripIndex const& other, Decide decide) {
     }
 }
 
+// The number of point tests classify() makes for the operand: one for every piece that is
+// near the other operand or follows one that is (or begins its loop).
+int testsOf(Operand const& operand) {
+    int tests = 0;
+    for (std::size_t l = 0; l < operand.pieces.size(); ++l) {
+        PieceLoop const& loop = operand.pieces[l];
+        if (loop.size() == 0) {
+            continue;
+        }
+        bool afterNear = true;
+        int r = 0;
+        do {
+            bool const near = operand.near[l][static_cast<std::size_t>(loop.origin(r))] != 0;
+            tests += near || afterNear ? 1 : 0;
+            afterNear = near;
+            r = loop.next(r);
+        } while (r != 0);
+    }
+    return tests;
+}
+
 }  // namespace
 
 LoopRefs refsOf(Loops const& loops) {
@@ -116,7 +137,7 @@ LoopRefs refsOf(Loops const& loops) {
 COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, OverlayOp op) {
     Operand a(loopsA), b(loopsB);
     cutAll(a, b);
-    StripIndex const areaA(a.piecesNear(true)), areaB(b.piecesNear(true));
+    StripIndex const areaA(a.piecesNear(true), testsOf(b)), areaB(b.piecesNear(true), testsOf(a));
     std::vector<COrxVertex const*> const nearB = b.piecesNear(false);
     PieceMatcher const matcher(nearB);
     std::vector<char> matched(nearB.size(), 0);
@@ -213,6 +234,11 @@ void forEachClosedLoop(COrxVertexArray& pieces, Take take) {
     for (int k = 1; k <= pieces.len(); ++k) {
         if (k < pieces.len() && pieces[k].startPoint() == pieces[k - 1].endPoint()) {
             continue;
+        }
+        if (begin == 0 && k == pieces.len() &&
+            pieces[k - 1].endPoint() == pieces[0].startPoint()) {
+            takeIfClosed(pieces, take);  // all pieces form one loop: no copy
+            return;
         }
         chain.setLogicalLength(k - begin);
         for (int i = begin; i < k; ++i) {

@@ -5,16 +5,15 @@
 // After the mutual cutting, a stretch of boundary that both operands share is cut at the
 // same points on both, so its pieces pair off this way; every other piece lies off the
 // other outline away from its ends and is classified by its midpoint. The pieces are found
-// through a hash of their start points on a grid of cells as wide as the tolerance; the
-// answers are those of a search through all pieces.
+// through their start points filed by cell (PointCells); the answers are those of a search
+// through all pieces.
 #ifndef ORX_REGIONS_INTERNAL_PIECE_MATCHER_H
 #define ORX_REGIONS_INTERNAL_PIECE_MATCHER_H
 
-#include <cstdint>
-#include <utility>
 #include <vector>
 
 #include "orx/polyline/vertex.h"
+#include "orx/regions/internal/point_cells.h"
 
 namespace ORX {
 namespace internal {
@@ -29,29 +28,24 @@ public:
 
     // Calls found(index, direction) for every piece that coincides with p (index into the
     // list the matcher was made from).
+    // A piece running the same way starts at p's start, one running the opposite way at
+    // p's end: each search hands out only its own kind, so no piece comes twice.
     template <class Found>
     void forEachMatch(COrxVertex const& p, Found found) const {
-        std::vector<int> near;
-        candidates(p.startPoint(), near);
-        candidates(p.endPoint(), near);
-        for (int k : near) {
-            int const direction = coincidence(p, *m_pieces[static_cast<std::size_t>(k)]);
-            if (direction != 0) {
-                found(k, direction);
-            }
-        }
+        auto search = [&](COrxPoint3d const& from, int wanted) {
+            m_starts.forEachNear(from, [&](int k) {
+                if (coincidence(p, *m_pieces[static_cast<std::size_t>(k)]) == wanted) {
+                    found(k, wanted);
+                }
+            });
+        };
+        search(p.startPoint(), 1);
+        search(p.endPoint(), -1);
     }
 
 private:
-    using Cell = std::pair<std::int64_t, std::int64_t>;
-    Cell cellOf(COrxPoint3d const& p) const;
-    // The pieces starting within the tolerance of p (and some more), ascending, unique
-    // when merged into `out`.
-    void candidates(COrxPoint3d const& p, std::vector<int>& out) const;
-
     std::vector<COrxVertex const*> m_pieces;
-    std::vector<std::pair<Cell, int>> m_byCell;  // sorted
-    double m_cell;
+    PointCells m_starts;
 };
 
 }  // namespace internal

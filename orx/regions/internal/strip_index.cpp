@@ -18,9 +18,40 @@ bool finiteBox(SegmentBox const& b) {
            std::isfinite(b.ymax);
 }
 
+// False only when the segment certainly adds nothing to the winding number of p: p is not
+// level with the chord's span (the ray's half-open rule, as g_bulg_winding has it), and for
+// an arc of at most a half circle also lies outside the chord's box widened by twice the
+// bound |bulge| (|dx| + |dy|) / 2 of the arc's height, which covers the rounding of the bound.
+// A NaN anywhere answers true.
+bool mayWind(COrxVertex const& v, COrxPoint3d const& p) {
+    COrxPoint3d const& a = v.startPoint();
+    COrxPoint3d const& b = v.endPoint();
+    if ((a.y <= p.y && p.y < b.y) || (b.y <= p.y && p.y < a.y)) {
+        return true;
+    }
+    double const bulge = v.bulge();
+    if (bulge == 0.0) {
+        return false;
+    }
+    if (!(std::fabs(bulge) <= 1.0)) {
+        return true;
+    }
+    double const reach = std::fabs(bulge) * (std::fabs(b.x - a.x) + std::fabs(b.y - a.y));
+    bool const off = p.y < std::min(a.y, b.y) - reach || p.y > std::max(a.y, b.y) + reach ||
+                     p.x < std::min(a.x, b.x) - reach || p.x > std::max(a.x, b.x) + reach;
+    return !off;
+}
+
 }  // namespace
 
-StripIndex::StripIndex(std::vector<COrxVertex const*> segments) : m_segments(std::move(segments)) {
+StripIndex::StripIndex(std::vector<COrxVertex const*> segments, int expectedQueries)
+    : m_segments(std::move(segments)), m_plain(expectedQueries <= kPlainQueries) {
+    if (!m_plain) {
+        build();
+    }
+}
+
+void StripIndex::build() {
     m_boxes.reserve(m_segments.size());
     double y0 = HUGE_VAL, y1 = -HUGE_VAL, span = 0.0;
     for (std::size_t k = 0; k < m_segments.size(); ++k) {
@@ -97,6 +128,14 @@ void StripIndex::visitStrip(int strip, Visit visit) const {
 
 int StripIndex::winding(COrxPoint3d const& p) const {
     int total = 0;
+    if (m_plain) {
+        for (COrxVertex const* v : m_segments) {
+            if (mayWind(*v, p)) {
+                total += g_bulg_winding(v->startPoint(), v->endPoint(), v->bulge(), p);
+            }
+        }
+        return total;
+    }
     visitStrip(stripOf(p.y), [&](int k) {
         SegmentBox const& box = m_boxes[static_cast<std::size_t>(k)];
         // Only a segment whose height spans p's and that reaches to its right counts.
@@ -110,6 +149,14 @@ int StripIndex::winding(COrxPoint3d const& p) const {
 }
 
 bool StripIndex::onBoundary(COrxPoint3d const& p) const {
+    if (m_plain) {
+        for (COrxVertex const* v : m_segments) {
+            if (v->isPoint(p)) {
+                return true;
+            }
+        }
+        return false;
+    }
     bool on = false;
     visitStrip(stripOf(p.y), [&](int k) {
         SegmentBox const& box = m_boxes[static_cast<std::size_t>(k)];

@@ -7,6 +7,11 @@
 // by the pruning margin) overlaps; the strip height is chosen so that the lists hold a few
 // times as many entries as there are segments. The answers are those of the sum over all
 // segments.
+//
+// Building the strips costs about as much as thirty plain passes over the segments; an index
+// told to expect no more than kPlainQueries questions builds nothing and answers each with a
+// plain pass that skips, by comparing coordinates only, the segments that cannot wind round
+// the point. The answers are the same either way.
 #ifndef ORX_REGIONS_INTERNAL_STRIP_INDEX_H
 #define ORX_REGIONS_INTERNAL_STRIP_INDEX_H
 
@@ -20,8 +25,12 @@ namespace internal {
 
 class StripIndex {
 public:
+    static constexpr int kPlainQueries = 16;
+    static constexpr int kManyQueries = 1 << 30;
+
     // Keeps pointers: the segments must outlive the index and stay unchanged.
-    explicit StripIndex(std::vector<COrxVertex const*> segments);
+    explicit StripIndex(std::vector<COrxVertex const*> segments,
+                        int expectedQueries = kManyQueries);
 
     // The winding number of p over all segments (exact, g_bulg_winding).
     int winding(COrxPoint3d const& p) const;
@@ -31,11 +40,13 @@ public:
     std::size_t size() const { return m_segments.size(); }
 
 private:
+    void build();
     int stripOf(double y) const;
     template <class Visit>
     void visitStrip(int strip, Visit visit) const;
 
     std::vector<COrxVertex const*> m_segments;
+    bool m_plain = false;  // no strips: every question is a pass over all segments
     std::vector<SegmentBox> m_boxes;  // widened by the pruning margin
     double m_y0 = 0.0, m_height = 1.0;
     int m_strips = 0;
