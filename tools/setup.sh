@@ -1,14 +1,18 @@
 #!/usr/bin/env bash
-# Installs every Debian 12 package the three builds, the tests and the tool need.
+# Installs every Debian 12 package the builds, the tests, the fuzzers and the tool need.
 # Does nothing when they are all present already; needs root (or sudo) otherwise.
 set -euo pipefail
 
+# clang, libclang-rt-14-dev and llvm are for the fuzz preset: libFuzzer and the sanitizer
+# runtimes (libclang-rt-14-dev is only recommended by clang, and recommendations are not
+# installed here) and llvm-symbolizer for readable reports.
 packages=(
   build-essential cmake ninja-build pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
   libsqlite3-dev libsystemd-dev dbus-daemon
   libcli11-dev nlohmann-json3-dev librsvg2-bin python3-ezdxf
   g++-mingw-w64-x86-64-posix wine64
+  clang libclang-rt-14-dev llvm
 )
 
 missing=()

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # The whole test of the project: installs what the builds need, then builds the native,
-# sanitizer and Windows configurations and runs every test of each.
-#     tools/test.sh                 all three
+# sanitizer and Windows configurations and runs every test of each, then builds the fuzz
+# preset, replays its seeds and regressions and runs every fuzz target for 60 seconds (two at
+# a time, see tools/fuzz.sh).
+#     tools/test.sh                 all four
 #     tools/test.sh native windows  only these
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -9,7 +11,7 @@ cd "$(dirname "$0")/.."
 tools/setup.sh
 
 presets=("$@")
-[ ${#presets[@]} -eq 0 ] && presets=(native sanitize windows)
+[ ${#presets[@]} -eq 0 ] && presets=(native sanitize windows fuzz)
 
 for preset in "${presets[@]}"; do
     start=$SECONDS
@@ -19,5 +21,8 @@ for preset in "${presets[@]}"; do
     built=$SECONDS
     echo "== $preset: test"
     ctest --preset "$preset"
+    if [ "$preset" = fuzz ]; then
+        tools/fuzz.sh --jobs 2 60
+    fi
     echo "== $preset: built in $((built - start)) s, tested in $((SECONDS - built)) s"
 done
