@@ -81,3 +81,19 @@ TEST(PlaneGeometryRobustnessTest, BadNumbersTerminateWithoutFalsePoints) {
         EXPECT_TRUE(!ORX::g_arcrad_bulg(bulge, O, P, 1.0) || std::isfinite(bulge)) << bad;
     }
 }
+
+TEST(PlaneGeometryRobustnessTest, ASegmentOfSubnormalLengthIsAPoint) {
+    // Its half chord underflows to zero, which the frame of a segment divides by: the
+    // distances came out NaN, and a point the segments share seemed to lie on neither.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const s(-d, -d, 0), e(-d, 0, 0);
+    for (double bulge : {0.0, 0.5}) {
+        SCOPED_TRACE(bulge);
+        EXPECT_EQ(ORX::g_bulg_pt_dist(s, e, bulge, COrxPoint3d(3, 4, 0)), 5.0);
+        EXPECT_LE(ORX::g_bulg_pt_dist(s, e, bulge, O), 2 * d);
+    }
+    COrxPoint3dArray pts;
+    ASSERT_TRUE(ORX::g_bulg_int(pts, COrxPoint3d(51, 51, 0), s, 0.0, s, e, 0.0, false));
+    ASSERT_EQ(pts.len(), 1);
+    EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[0]), COrxPoint3d::tol);
+}
