@@ -94,13 +94,42 @@ int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction)
     return hits % 2;
 }
 
+bool isLevel(COrxVertexArray const& vl, double z) {
+    COrxVertex const* segments = vl.data();
+    for (int k = 0; k < vl.len(); ++k) {
+        if (segments[k].startPoint().z != z || segments[k].endPoint().z != z) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The polyline's plan at the height z.
+COrxVertexArray atHeight(COrxVertexArray const& vl, double z) {
+    COrxVertexArray plan(vl);
+    for (int k = 0; k < plan.len(); ++k) {
+        COrxVertex& v = plan[k];
+        COrxPoint3d s = v.startPoint(), e = v.endPoint();
+        s.z = e.z = z;
+        v.set(s, e, v.bulge());
+    }
+    return plan;
+}
+
 }  // namespace
 
 bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     if (vl.len() < 2) {
         return false;
     }
-    p.z = vl[0].startPoint().z;
+    // The segments compare points in space (isPoint, the ends the ray meets): a polyline
+    // whose points lie at several heights is tested on its plan, or a point on it would not
+    // be on it and a ray through a corner would count it twice.
+    double const z = vl[0].startPoint().z;
+    if (!isLevel(vl, z)) {
+        return rayInside(atHeight(vl, std::isfinite(z) ? z : 0.0), p, onBoundary);
+    }
+    p.z = z;
     double direction = angle(vl[0].mid(), p);
     for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
         int const parity = rayParity(vl, p, direction);
