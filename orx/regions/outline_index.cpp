@@ -18,6 +18,21 @@ std::vector<COrxVertex const*> segmentsOf(COrxArrayTempl<COrxVertexArray> const&
     return segments;
 }
 
+// The loops in the plan, at height 0: the segments compare points in space (isPoint), and
+// the test is planar whatever heights the loops' points and the queries have.
+COrxArrayTempl<COrxVertexArray> inPlan(COrxArrayTempl<COrxVertexArray> loops) {
+    for (unsigned long l = 0; l < loops.len(); ++l) {
+        COrxVertexArray& loop = loops[static_cast<int>(l)];
+        for (int k = 0; k < loop.len(); ++k) {
+            COrxVertex& v = loop[k];
+            COrxPoint3d const& s = v.startPoint();
+            COrxPoint3d const& e = v.endPoint();
+            v.set(COrxPoint3d(s.x, s.y, 0.0), COrxPoint3d(e.x, e.y, 0.0), v.bulge());
+        }
+    }
+    return loops;
+}
+
 COrxArrayTempl<COrxVertexArray> oneLoop(COrxVertexArray const& outline) {
     COrxArrayTempl<COrxVertexArray> loops;
     loops.append(outline);
@@ -26,10 +41,10 @@ COrxArrayTempl<COrxVertexArray> oneLoop(COrxVertexArray const& outline) {
 
 }  // namespace
 
-// The loops are kept here, and the strips point into them.
+// The loops are kept here in the plan, and the strips point into them.
 struct COrxOutlineIndex::Index {
     explicit Index(COrxArrayTempl<COrxVertexArray> const& region)
-        : loops(region), strips(segmentsOf(loops)) {}
+        : loops(inPlan(region)), strips(segmentsOf(loops)) {}
 
     COrxArrayTempl<COrxVertexArray> const loops;
     ORX::internal::StripIndex const strips;
@@ -61,13 +76,14 @@ COrxOutlineIndex::~COrxOutlineIndex() {
 }
 
 int COrxOutlineIndex::locate(COrxPoint3d const& p) const {
-    if (m_index == nullptr || !p.isValid()) {
+    COrxPoint3d const plan(p.x, p.y, 0.0);
+    if (m_index == nullptr || !plan.isValid()) {
         return -1;
     }
-    if (m_index->strips.onBoundary(p)) {
+    if (m_index->strips.onBoundary(plan)) {
         return 0;
     }
-    return m_index->strips.winding(p) % 2 != 0 ? 1 : -1;
+    return m_index->strips.winding(plan) % 2 != 0 ? 1 : -1;
 }
 
 bool COrxOutlineIndex::inside(COrxPoint3d const& p, bool onBoundary) const {
