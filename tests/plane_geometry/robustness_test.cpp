@@ -97,3 +97,17 @@ TEST(PlaneGeometryRobustnessTest, ASegmentOfSubnormalLengthIsAPoint) {
     ASSERT_EQ(pts.len(), 1);
     EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[0]), COrxPoint3d::tol);
 }
+
+TEST(PlaneGeometryRobustnessTest, ATinyStraightSegmentMeasuresPointsFarBeyondItsLength) {
+    // Measured in the segment's frame, where lengths count in half chords, the point lies
+    // 1e219 half chords away: its squared distance overflowed and a line's zero quadratic
+    // term made NaN of it.
+    COrxPoint3d const s(4.0317920028340174e-313, 0, 0), e(0, 0, 0), p(0, -1.7785661039778271e-93, 0);
+    EXPECT_NEAR(ORX::g_bulg_pt_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
+    EXPECT_NEAR(ORX::g_bulg_circ_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
+    COrxPoint3dArray pts;
+    ASSERT_TRUE(ORX::g_bulg_int(pts, COrxPoint3d(19, 0, 0), p, 0.0, s, e, 0.0, false));
+    for (int i = 0; i < pts.len(); ++i) {
+        EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[i]), COrxPoint3d::tol);
+    }
+}
