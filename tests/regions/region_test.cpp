@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/region_building.h"
 #include "shapes.h"
@@ -37,6 +39,13 @@ TEST(RegionTest, PointInALoopWhosePointsLieAtSeveralHeightsIsPlanar) {
         EXPECT_TRUE(ORX::g_vl_pt_inside(diamond, COrxPoint3d(-2, 0, z), true));
         EXPECT_FALSE(ORX::g_vl_pt_inside(diamond, COrxPoint3d(-2, 0, z), false));
     }
+    // A level circle at the lowest height there is: sums of heights overflowed.
+    double const low = -std::numeric_limits<double>::max();
+    COrxVertexArray disc;
+    disc.append(COrxVertex(COrxPoint3d(88, 5, low), COrxPoint3d(-94, 5, low), 1.0))
+        .append(COrxVertex(COrxPoint3d(-94, 5, low), COrxPoint3d(88, 5, low), 1.0));
+    EXPECT_TRUE(ORX::g_vl_pt_inside(disc, COrxPoint3d(6, 4, 0), false));
+    EXPECT_EQ(ORX::g_vll_pt_inside(region({disc}), COrxPoint3d(88, 5, low)), 0);
 }
 
 TEST(RegionTest, EmptyRegionsAreRefusedWithOutUntouched) {

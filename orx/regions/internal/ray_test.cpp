@@ -123,13 +123,13 @@ bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
         return false;
     }
     // The segments compare points in space (isPoint, the ends the ray meets): a polyline
-    // whose points lie at several heights is tested on its plan, or a point on it would not
-    // be on it and a ray through a corner would count it twice.
-    double const z = vl[0].startPoint().z;
-    if (!isLevel(vl, z)) {
-        return rayInside(atHeight(vl, std::isfinite(z) ? z : 0.0), p, onBoundary);
+    // that does not lie at height 0 is tested on its plan there, or a point on it at
+    // several heights would not be on it, a ray through a corner would count it twice, and
+    // heights near the range of doubles would overflow.
+    if (!isLevel(vl, 0.0)) {
+        return rayInside(atHeight(vl, 0.0), p, onBoundary);
     }
-    p.z = z;
+    p.z = 0.0;
     double direction = angle(vl[0].mid(), p);
     for (int attempt = 0; attempt < kMaxRayRestarts; ++attempt) {
         int const parity = rayParity(vl, p, direction);
