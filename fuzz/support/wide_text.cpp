@@ -53,7 +53,8 @@ std::wstring decodeWideText(FuzzInput& in, std::size_t maxLength, bool wellForme
             appendCodePoint(text, 0xA0 + in.u16() % 0xD700);
         } else {
             char32_t const c = kMalformed[in.below(kMalformedCount)];
-            text += static_cast<wchar_t>(sizeof(wchar_t) == 2 ? c & 0xFFFF : c);
+            // 16 bits hold no value past the last code point: a non-character instead.
+            text += static_cast<wchar_t>(sizeof(wchar_t) == 2 && c > 0xFFFF ? 0xFFFF : c);
         }
     }
     return text;
