@@ -154,7 +154,14 @@ double g_bulg_pt_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge
     if (!frame.valid()) {
         return p1.isValid() ? internal::planLength(p.x - p1.x, p.y - p1.y) : nan();
     }
-    return frame.halfChord() * frame.distanceToSegment(frame.toFrame(p));
+    FramePoint const q = frame.toFrame(p);
+    if (!std::isfinite(q.x) || !std::isfinite(q.y)) {
+        // p lies more than the range of doubles away, counted in half chords: next to that
+        // distance the segment is a point, and the nearer end is as near as rounding tells.
+        return std::fmin(internal::planLength(p.x - p1.x, p.y - p1.y),
+                         internal::planLength(p.x - p2.x, p.y - p2.y));
+    }
+    return frame.halfChord() * frame.distanceToSegment(q);
 }
 
 double g_bulg_circ_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,

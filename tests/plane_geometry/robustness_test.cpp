@@ -110,4 +110,11 @@ TEST(PlaneGeometryRobustnessTest, ATinyStraightSegmentMeasuresPointsFarBeyondIts
     for (int i = 0; i < pts.len(); ++i) {
         EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[i]), COrxPoint3d::tol);
     }
+    // Farther than the range of doubles in half chords: the frame overflowed to infinity.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const a(d, -d, 0), b(-d, -d, 0);
+    for (double bulge : {0.0, 1.0}) {
+        EXPECT_NEAR(ORX::g_bulg_pt_dist(a, b, bulge, COrxPoint3d(0, -1e-9, 0)), 1e-9, 1e-24);
+        EXPECT_NEAR(ORX::g_bulg_pt_dist(a, b, bulge, COrxPoint3d(3e7, 4e7, 0)), 5e7, 1e-8);
+    }
 }
