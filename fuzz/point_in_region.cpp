@@ -26,21 +26,15 @@ constexpr double kMeasurable = 1e5;
 // differ, and a clear point's ray is re-aimed rather than graze).
 constexpr double kClearance = 1e-3;
 
+// A loop whose box (tight around its arcs) lies within kMeasurable: an arc of a huge bulge
+// reaches far beyond its ends, and a ray shorter than the loop may miss it.
 bool measurable(COrxVertexArray const& vl) {
-    if (!isFinite(vl)) {
+    COrxPoint3d low, high;
+    if (!isFinite(vl) || !vl.extents(low, high)) {
         return false;
     }
-    for (int i = 0; i < vl.len(); ++i) {
-        for (COrxPoint3d const& p : {vl[i].startPoint(), vl[i].endPoint()}) {
-            if (!(std::fabs(p.x) <= kMeasurable && std::fabs(p.y) <= kMeasurable)) {
-                return false;
-            }
-        }
-        if (!(std::fabs(vl[i].bulge()) <= 1e3)) {
-            return false;
-        }
-    }
-    return true;
+    return std::fabs(low.x) <= kMeasurable && std::fabs(low.y) <= kMeasurable &&
+           std::fabs(high.x) <= kMeasurable && std::fabs(high.y) <= kMeasurable;
 }
 
 bool measurable(Region const& region) {
