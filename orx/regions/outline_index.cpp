@@ -1,5 +1,6 @@
 #include "orx/regions/outline_index.h"
 
+#include <cmath>
 #include <vector>
 
 #include "orx/foundation/array_templ_impl.h"
@@ -18,16 +19,24 @@ std::vector<COrxVertex const*> segmentsOf(COrxArrayTempl<COrxVertexArray> const&
     return segments;
 }
 
-// The loops in the plan, at height 0: the segments compare points in space (isPoint), and
-// the test is planar whatever heights the loops' points and the queries have.
+// Coordinates smaller than this count as 0: the exact winding tests multiply differences
+// of coordinates, and products that fall below the normal doubles lose their exactness.
+constexpr double kNegligibleCoordinate = 1e-50;
+
+// The point in the plan, at height 0, with negligible coordinates made 0.
+COrxPoint3d inPlan(COrxPoint3d const& p) {
+    auto const plan = [](double v) { return std::fabs(v) < kNegligibleCoordinate ? 0.0 : v; };
+    return COrxPoint3d(plan(p.x), plan(p.y), 0.0);
+}
+
+// The loops in the plan: the segments compare points in space (isPoint), and the test is
+// planar whatever heights the loops' points and the queries have.
 COrxArrayTempl<COrxVertexArray> inPlan(COrxArrayTempl<COrxVertexArray> loops) {
     for (unsigned long l = 0; l < loops.len(); ++l) {
         COrxVertexArray& loop = loops[static_cast<int>(l)];
         for (int k = 0; k < loop.len(); ++k) {
             COrxVertex& v = loop[k];
-            COrxPoint3d const& s = v.startPoint();
-            COrxPoint3d const& e = v.endPoint();
-            v.set(COrxPoint3d(s.x, s.y, 0.0), COrxPoint3d(e.x, e.y, 0.0), v.bulge());
+            v.set(inPlan(v.startPoint()), inPlan(v.endPoint()), v.bulge());
         }
     }
     return loops;
@@ -76,7 +85,7 @@ COrxOutlineIndex::~COrxOutlineIndex() {
 }
 
 int COrxOutlineIndex::locate(COrxPoint3d const& p) const {
-    COrxPoint3d const plan(p.x, p.y, 0.0);
+    COrxPoint3d const plan = inPlan(p);
     if (m_index == nullptr || !plan.isValid()) {
         return -1;
     }

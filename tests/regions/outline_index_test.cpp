@@ -90,3 +90,19 @@ TEST(COrxOutlineIndexTest, IsPlanarWhateverTheHeights) {
         EXPECT_EQ(index.locate(COrxPoint3d(3, 0, z)), -1);
     }
 }
+
+TEST(COrxOutlineIndexTest, ACoordinateNearZeroCountsAsZero) {
+    // A circle of radius 0.093 about (0.002, 0) in three arcs, asked about a point a
+    // subnormal number away from the origin: the exact winding test's products underflowed,
+    // and the point well inside the circle was outside.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const a(0.095, 0, 0), b(-0.091, 0, 0), c(0.002, -0.093, 0);
+    COrxVertexArray circle;
+    circle.append(COrxVertex(a, b, 1.0))
+        .append(COrxVertex(b, c, 0.41421356237309503))
+        .append(COrxVertex(c, a, 0.41421356237309503));
+    COrxOutlineIndex const index(circle);
+    for (COrxPoint3d const& p : {COrxPoint3d(-d, -d, 0), COrxPoint3d(d, -1e-60, 0), pt(0, 0)}) {
+        EXPECT_EQ(index.locate(p), 1);
+    }
+}
