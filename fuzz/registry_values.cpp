@@ -21,7 +21,9 @@
 #include "support/fuzz_input.h"
 #include "support/wide_text.h"
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>  // the predefined keys
+#else
 #include <filesystem>
 #endif
 
