@@ -13,5 +13,7 @@ endfunction()
 # their literals and counts would need casts that say nothing.
 function(orx_set_strict_warnings target)
     orx_set_warnings(${target})
-    target_compile_options(${target} PRIVATE -Wconversion)
+    # Clang's -Wconversion also covers sign changes, which GCC's leaves apart.
+    target_compile_options(${target} PRIVATE -Wconversion
+        $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
 endfunction()

@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
-# Installs every Debian 12 package the three builds, the tests and the tool need.
+# Installs every Debian 12 package the builds, the tests, the fuzzers and the tool need.
 # Does nothing when they are all present already; needs root (or sudo) otherwise.
 set -euo pipefail
 
+# clang, libclang-rt-14-dev and llvm are for the fuzz preset: libFuzzer and the sanitizer
+# runtimes (libclang-rt-14-dev is only recommended by clang, and recommendations are not
+# installed here) and llvm-symbolizer for readable reports.
 packages=(
   build-essential cmake ninja-build pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
@@ -10,6 +13,7 @@ packages=(
   libcli11-dev nlohmann-json3-dev librsvg2-bin python3-ezdxf
   g++-mingw-w64-x86-64-posix wine64
   clang-format clang-tidy
+  clang libclang-rt-14-dev llvm
 )
 
 missing=()

@@ -258,7 +258,12 @@ void formatCharacter(Output& out, Directive const& directive, va_list& args) {
 }
 
 // The C99 narrow formatter: MinGW-w64's own on Windows (the Microsoft one writes other
-// exponents), the C library's elsewhere.
+// exponents), the C library's elsewhere. The directive is one the parser above rebuilt from
+// the caller's format, never a literal, so clang's check for literal formats is off here.
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wformat-nonliteral"
+#endif
 int cFormatV(char* buffer, std::size_t size, char const* directive, va_list args) {
 #if defined(__MINGW32__)
     return __mingw_vsnprintf(buffer, size, directive, args);
@@ -266,6 +271,9 @@ int cFormatV(char* buffer, std::size_t size, char const* directive, va_list args
     return std::vsnprintf(buffer, size, directive, args);
 #endif
 }
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
 
 int cFormat(char* buffer, std::size_t size, char const* directive, ...) {
     va_list args;

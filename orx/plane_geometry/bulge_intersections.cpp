@@ -36,8 +36,9 @@ bool onCircleOf(Segment const& s, ArcFrame const& other) {
     return near(s.start) && near(s.end) && near(g_bulg_mid(s.start, s.end, s.bulge));
 }
 
-// Two arcs of one circle meet in their common end points only: the first's ends that are
-// ends of the second, then the second's ends that are ends of the first and not yet listed.
+// Two arcs of one circle (or an arc and a straight segment on one line) meet in their common
+// end points only: the first's ends that are ends of the second, then the second's ends that
+// are ends of the first and not yet listed.
 void commonEnds(COrxPoint3dArray& pts, Segment const& a, Segment const& b) {
     for (COrxPoint3d const& e : {a.start, a.end}) {
         if ((e == b.start || e == b.end) && pts.indexOf(e) < 0) {
@@ -178,7 +179,12 @@ bool g_bulg_int(COrxPoint3dArray& pts, COrxPoint3d const& s1, COrxPoint3d const&
     if (!arc.valid() || !other.valid()) {
         return false;
     }
-    if (b.bulge != 0.0 && onCircleOf(b, arc) && onCircleOf(a, other)) {
+    // Two arcs of one circle, or an arc within the tolerance of a straight segment's line
+    // whose ends lie on its circle (an arc so flat that the two run together): they meet
+    // along the whole overlap, and only its ends are points. A touching point in between,
+    // which the near-tangency rule below would make of them, cuts an overlap where nothing
+    // crosses, and the halves overlap again.
+    if (onCircleOf(b, arc) && onCircleOf(a, other)) {
         commonEnds(pts, Segment{s1, e1, b1}, Segment{s2, e2, b2});
         return !pts.isEmpty();
     }

@@ -17,6 +17,13 @@ using internal::ArcFrame;
 
 using internal::FramePoint;
 
+// An arc's points lie at the height of its chord midpoint, so its ends count as reached in
+// the plan: with ends at two heights, a 3D comparison would let a cut through beside an end
+// and leave a piece of no length in the plan, which cuts again and again.
+bool nearInPlan(COrxPoint3d const& p, COrxPoint3d const& q) {
+    return std::hypot(p.x - q.x, p.y - q.y) <= COrxPoint3d::tol;
+}
+
 // The bulge of an arc that turns through sweep (>= 0) in the sense of `sense`.
 double bulgeOfSweep(double sweep, double sense) {
     double const b = std::tan(sweep / 4);
@@ -148,7 +155,14 @@ double g_bulg_pt_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge
     if (!frame.valid()) {
         return p1.isValid() ? internal::planLength(p.x - p1.x, p.y - p1.y) : nan();
     }
-    return frame.halfChord() * frame.distanceToSegment(frame.toFrame(p));
+    FramePoint const q = frame.toFrame(p);
+    if (!std::isfinite(q.x) || !std::isfinite(q.y)) {
+        // p lies more than the range of doubles away, counted in half chords: next to that
+        // distance the segment is a point, and the nearer end is as near as rounding tells.
+        return std::fmin(internal::planLength(p.x - p1.x, p.y - p1.y),
+                         internal::planLength(p.x - p2.x, p.y - p2.y));
+    }
+    return frame.halfChord() * frame.distanceToSegment(q);
 }
 
 double g_bulg_circ_dist(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
@@ -184,7 +198,7 @@ bool g_bulg_cut(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge, COrx
     }
     COrxPoint3d const at =
         bulge == 0.0 ? straightPoint(p1, p2, t) : frame.toWorld(frame.pointAt(t));
-    if (at == p1 || at == p2) {
+    if (bulge == 0.0 ? (at == p1 || at == p2) : (nearInPlan(at, p1) || nearInPlan(at, p2))) {
         return false;
     }
     // The pieces turn through the shares t and 1 - t of the angle: tan(t atan(b)).

@@ -57,8 +57,8 @@ ORX_API COrxPoint3d g_bulg_lotp(COrxPoint3d const& p1, COrxPoint3d const& p2, do
 // Cuts the segment at the foot of p: the cut point on the segment and the bulges of the two
 // pieces (p1 to cut, cut to p2), which lie on the segment's own line or circle and together
 // make it up. False, outputs untouched, when the foot lies outside the segment or within
-// COrxPoint3d::tol of an end: such a cut would make a piece of no length or one that runs
-// the long way round the circle.
+// COrxPoint3d::tol of an end (for an arc in the plan, as its points are planar): such a cut
+// would make a piece of no length or one that runs the long way round the circle.
 ORX_API bool g_bulg_cut(COrxPoint3d const& p1, COrxPoint3d const& p2, double bulge,
                         COrxPoint3d const& p, COrxPoint3d& cut, double& bulge1, double& bulge2);
 

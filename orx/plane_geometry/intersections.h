@@ -59,7 +59,10 @@ ORX_API bool g_cai(COrxPoint3dArray& pts, COrxPoint3d const& c1, double r1, COrx
 // - two straight segments: inters(s1, e1, s2, e2, !extended);
 // - an arc and a straight segment: the circle against the line as in g_cli0 (roots within
 //   t/2 of each other are one point, a line that misses by less than t touches), the points
-//   in the order of g_cli0's parameter along the line;
+//   in the order of g_cli0's parameter along the line; an arc so flat that its ends and
+//   midpoint lie within t of the line, while the straight segment's ends and midpoint lie
+//   within t of its circle, runs along it: they meet only in their common end points, as
+//   two arcs of one circle do;
 // - two arcs: against each other as in g_cci (a gap or an overlap below t is one touching
 //   point, points within kTouchArcLength are one), the point left of the line from the more
 //   curved circle's centre to the other's first. Two arcs of one circle (each arc's ends and

@@ -34,7 +34,9 @@ public:
     ~COrxOutlineIndex() override;
 
     // 1 inside the area, 0 on the boundary (within COrxPoint3d::tol), -1 outside (also inside
-    // a hole, and for NaN coordinates). The test is planar.
+    // a hole, and for a NaN or infinite x or y). The test is planar: the heights of p and of
+    // the loops' points play no part (an infinite or NaN z included), as in g_vll_pt_inside.
+    // Coordinates below 1e-50 in magnitude count as 0 (the exact tests would underflow).
     int locate(COrxPoint3d const& p) const;
     // Inside; a point on the boundary gives onBoundary (as g_vl_pt_inside).
     bool inside(COrxPoint3d const& p, bool onBoundary) const;

@@ -109,6 +109,29 @@ TEST(IntersectionsTest, ConcentricArcsMeetOnlyAtCommonEnds) {
     EXPECT_FALSE(ORX::g_aai(pts, O, 2, 0, pi, O, 3, 0, pi));
 }
 
+TEST(IntersectionsTest, FlatArcAlongAStraightSegmentMeetsItOnlyAtCommonEnds) {
+    // Arcs whose sagitta is far below the tolerance run along the chord's line, from a bulge
+    // near the limit of the tolerance down to a subnormal one: like two arcs of one circle
+    // they meet only at the ends they share, never at a touching point in between (cutting
+    // there leaves two halves that overlap again).
+    P const s(0, 0, 0), e(-21, 0, 0);
+    for (double bulge : {1e-9, 1e-15, 1e-100, 1e-300, 5.2454119588680132e-317}) {
+        SCOPED_TRACE(bulge);
+        COrxPoint3dArray pts;
+        ASSERT_TRUE(ORX::g_bulg_int(pts, s, e, bulge, e, s, 0.0, false));
+        EXPECT_EQ(pts, list({s, e}));
+        ASSERT_TRUE(ORX::g_bulg_int(pts, e, s, 0.0, s, e, bulge, false));
+        EXPECT_EQ(pts, list({e, s}));
+        // Only one end in common, the other inside the straight segment.
+        ASSERT_TRUE(ORX::g_bulg_int(pts, s, e, bulge, P(-30, 0, 0), s, 0.0, false));
+        EXPECT_EQ(pts, list({s}));
+    }
+    // A line across the flat arc still meets it once.
+    COrxPoint3dArray pts;
+    ASSERT_TRUE(ORX::g_bulg_int(pts, s, e, 1e-300, P(-5, -3, 0), P(-5, 3, 0), 0.0, false));
+    EXPECT_EQ(pts, list({P(-5, 0, 0)}));
+}
+
 TEST(IntersectionsTest, FoundPointsLieOnBothOperands) {
     std::mt19937 random(4242);
     std::uniform_real_distribution<double> coord(-50.0, 50.0);

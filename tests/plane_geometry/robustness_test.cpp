@@ -87,3 +87,40 @@ TEST(PlaneGeometryRobustnessTest, BadNumbersTerminateWithoutFalsePoints) {
         EXPECT_TRUE(!ORX::g_arcrad_bulg(bulge, O, P, 1.0) || std::isfinite(bulge)) << bad;
     }
 }
+
+TEST(PlaneGeometryRobustnessTest, ASegmentOfSubnormalLengthIsAPoint) {
+    // Its half chord underflows to zero, which the frame of a segment divides by: the
+    // distances came out NaN, and a point the segments share seemed to lie on neither.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const s(-d, -d, 0), e(-d, 0, 0);
+    for (double bulge : {0.0, 0.5}) {
+        SCOPED_TRACE(bulge);
+        EXPECT_EQ(ORX::g_bulg_pt_dist(s, e, bulge, COrxPoint3d(3, 4, 0)), 5.0);
+        EXPECT_LE(ORX::g_bulg_pt_dist(s, e, bulge, O), 2 * d);
+    }
+    COrxPoint3dArray pts;
+    ASSERT_TRUE(ORX::g_bulg_int(pts, COrxPoint3d(51, 51, 0), s, 0.0, s, e, 0.0, false));
+    ASSERT_EQ(pts.len(), 1);
+    EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[0]), COrxPoint3d::tol);
+}
+
+TEST(PlaneGeometryRobustnessTest, ATinyStraightSegmentMeasuresPointsFarBeyondItsLength) {
+    // Measured in the segment's frame, where lengths count in half chords, the point lies
+    // 1e219 half chords away: its squared distance overflowed and a line's zero quadratic
+    // term made NaN of it.
+    COrxPoint3d const s(4.0317920028340174e-313, 0, 0), e(0, 0, 0), p(0, -1.7785661039778271e-93, 0);
+    EXPECT_NEAR(ORX::g_bulg_pt_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
+    EXPECT_NEAR(ORX::g_bulg_circ_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
+    COrxPoint3dArray pts;
+    ASSERT_TRUE(ORX::g_bulg_int(pts, COrxPoint3d(19, 0, 0), p, 0.0, s, e, 0.0, false));
+    for (int i = 0; i < pts.len(); ++i) {
+        EXPECT_LE(ORX::g_bulg_pt_dist(s, e, 0.0, pts[i]), COrxPoint3d::tol);
+    }
+    // Farther than the range of doubles in half chords: the frame overflowed to infinity.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const a(d, -d, 0), b(-d, -d, 0);
+    for (double bulge : {0.0, 1.0}) {
+        EXPECT_NEAR(ORX::g_bulg_pt_dist(a, b, bulge, COrxPoint3d(0, -1e-9, 0)), 1e-9, 1e-24);
+        EXPECT_NEAR(ORX::g_bulg_pt_dist(a, b, bulge, COrxPoint3d(3e7, 4e7, 0)), 5e7, 1e-8);
+    }
+}

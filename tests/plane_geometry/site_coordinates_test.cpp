@@ -151,4 +151,11 @@ TEST(SiteCoordinatesTest, CuttingNeverLengthensASegment) {
         EXPECT_NEAR(ORX::g_bulg_len(s, cut, b1) + ORX::g_bulg_len(cut, e, b2), ORX::kHalfPi, 1e-15);
         EXPECT_NEAR(4 * std::atan(b1), at, 1e-15);
     }
+    // An arc whose ends lie at two heights is planar (its points take the height of the chord
+    // midpoint): its ends count in the plan, and a point beside one is no cut there either.
+    P const high(1, 0, 38);
+    EXPECT_FALSE(ORX::g_bulg_cut(high, e, b, ORX::polar(P(0, 0, 0), 0.5e-5, 1), cut, b1, b2));
+    EXPECT_FALSE(ORX::g_bulg_cut(high, e, b, P(1, 0, 0), cut, b1, b2));
+    ASSERT_TRUE(ORX::g_bulg_cut(high, e, b, ORX::polar(P(0, 0, 0), 0.3, 1), cut, b1, b2));
+    EXPECT_NEAR(4 * std::atan(b1), 0.3, 1e-15);
 }

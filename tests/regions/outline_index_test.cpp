@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "../../bench/bench_shapes.h"
 #include "shape_maker.h"
 #include "tests/support/shapes.h"
@@ -69,4 +71,39 @@ TEST(COrxOutlineIndexTest, EmptyInvalidAndCopied) {
     EXPECT_EQ(square.locate(pt(11, 11)), 1);
     copy = copy;  // self-assignment keeps it
     EXPECT_EQ(copy.locate(pt(1, 1)), 1);
+}
+
+TEST(COrxOutlineIndexTest, IsPlanarWhateverTheHeights) {
+    // A diamond whose corners alternate between two heights, asked at several heights: the
+    // index compared points in space, and a point with an infinite z was outside everything.
+    COrxVertexArray diamond;
+    COrxPoint3d const corners[] = {COrxPoint3d(2, 0, 0), COrxPoint3d(0, 2, 5),
+                                   COrxPoint3d(-2, 0, 0), COrxPoint3d(0, -2, 5)};
+    for (int i = 0; i < 4; ++i) {
+        diamond.append(COrxVertex(corners[i], corners[(i + 1) % 4], 0.0));
+    }
+    COrxOutlineIndex const index(diamond);
+    for (double z : {0.0, 5.0, -120.0, std::numeric_limits<double>::infinity(), ORX::nan()}) {
+        SCOPED_TRACE(z);
+        EXPECT_EQ(index.locate(COrxPoint3d(0, 2, z)), 0);  // a corner
+        EXPECT_EQ(index.locate(COrxPoint3d(1, 1, z)), 0);  // an edge
+        EXPECT_EQ(index.locate(COrxPoint3d(0.5, 0, z)), 1);
+        EXPECT_EQ(index.locate(COrxPoint3d(3, 0, z)), -1);
+    }
+}
+
+TEST(COrxOutlineIndexTest, ACoordinateNearZeroCountsAsZero) {
+    // A circle of radius 0.093 about (0.002, 0) in three arcs, asked about a point a
+    // subnormal number away from the origin: the exact winding test's products underflowed,
+    // and the point well inside the circle was outside.
+    double const d = std::numeric_limits<double>::denorm_min();
+    COrxPoint3d const a(0.095, 0, 0), b(-0.091, 0, 0), c(0.002, -0.093, 0);
+    COrxVertexArray circle;
+    circle.append(COrxVertex(a, b, 1.0))
+        .append(COrxVertex(b, c, 0.41421356237309503))
+        .append(COrxVertex(c, a, 0.41421356237309503));
+    COrxOutlineIndex const index(circle);
+    for (COrxPoint3d const& p : {COrxPoint3d(-d, -d, 0), COrxPoint3d(d, -1e-60, 0), pt(0, 0)}) {
+        EXPECT_EQ(index.locate(p), 1);
+    }
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
+#include "orx/regions/bool_operation.h"
 #include "orx/regions/region_building.h"
 #include "region_measures.h"
 #include "tests/support/shapes.h"
@@ -16,6 +19,34 @@ TEST(RegionTest, PointInRegionWithHoles) {
     EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(10, 3)), 0);  // on the outer loop
     EXPECT_EQ(ORX::g_vll_pt_inside(plate, pt(11, 3)), -1);
     EXPECT_EQ(ORX::g_vll_pt_inside(Region(), pt(1, 1)), -1);
+}
+
+TEST(RegionTest, PointInALoopWhosePointsLieAtSeveralHeightsIsPlanar) {
+    // A diamond whose corners alternate between two heights: the ray test compared its
+    // points in space, so that its own corners and edges were not on it.
+    COrxVertexArray diamond;
+    COrxPoint3d const corners[] = {COrxPoint3d(2, 0, 0), COrxPoint3d(0, 2, 5),
+                                   COrxPoint3d(-2, 0, 0), COrxPoint3d(0, -2, 5)};
+    for (int i = 0; i < 4; ++i) {
+        diamond.append(COrxVertex(corners[i], corners[(i + 1) % 4], 0.0));
+    }
+    Region const plate = region({diamond});
+    for (double z : {0.0, 5.0, -120.0}) {
+        SCOPED_TRACE(z);
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(0, 2, z)), 0);   // a corner
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(1, 1, z)), 0);   // an edge
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(0.5, 0, z)), 1);
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(3, 0, z)), -1);
+        EXPECT_TRUE(ORX::g_vl_pt_inside(diamond, COrxPoint3d(-2, 0, z), true));
+        EXPECT_FALSE(ORX::g_vl_pt_inside(diamond, COrxPoint3d(-2, 0, z), false));
+    }
+    // A level circle at the lowest height there is: sums of heights overflowed.
+    double const low = -std::numeric_limits<double>::max();
+    COrxVertexArray disc;
+    disc.append(COrxVertex(COrxPoint3d(88, 5, low), COrxPoint3d(-94, 5, low), 1.0))
+        .append(COrxVertex(COrxPoint3d(-94, 5, low), COrxPoint3d(88, 5, low), 1.0));
+    EXPECT_TRUE(ORX::g_vl_pt_inside(disc, COrxPoint3d(6, 4, 0), false));
+    EXPECT_EQ(ORX::g_vll_pt_inside(region({disc}), COrxPoint3d(88, 5, low)), 0);
 }
 
 TEST(RegionTest, EmptyRegionsAreRefusedWithOutUntouched) {

@@ -149,6 +149,19 @@ TEST_F(RegistryProcessesTest, BinaryValuesAreKeptByteForByte) {
     sqlite3_close(db);
 }
 
+// Exit handlers and static destructors of a client may still use the registry after the
+// library's own statics are gone; the registry used to be destroyed with them, and such a
+// late write used freed memory.
+TEST_F(RegistryProcessesTest, AStaticDestructorWritesAfterTheRegistrysOwnStatics) {
+    Worker writer({"at-exit", "4242"});
+    ASSERT_TRUE(writer.started());
+    std::string output;
+    EXPECT_EQ(writer.finish(output), 0) << output;
+    orx_test::Key const key(ORX::regOpenKey(HKEY_CURRENT_USER, L"Software\\OrxWorker", false));
+    EXPECT_EQ(orx_test::readValue<unsigned long>(key, L"AtExit"), 4242ul);
+    EXPECT_TRUE(passesIntegrityCheck(hiveFile()));
+}
+
 // The machine hive is written by an administrator and read by everyone; a reader may write
 // neither the database nor its folder.
 TEST_F(RegistryProcessesTest, AUserWhoMayNotWriteTheMachineHiveReadsIt) {

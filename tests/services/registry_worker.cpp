@@ -8,6 +8,9 @@
 //   endless          writes K<n> = n for n = 0, 1, ..., printing n once the write has
 //                    returned, until it is killed.
 //   machine <number> reads Software\OrxWorker\Machine of the machine hive.
+//   at-exit <number> writes a setting, then, while the program ends, writes AtExit = number
+//                    from the destructor of a static object made before the first registry
+//                    call (so destroyed after the registry's own statics).
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -97,6 +100,29 @@ int machine(unsigned long expected) {
     return !read ? 2 : number == expected ? 0 : 1;
 }
 
+// Writes Software\OrxWorker\AtExit when destroyed.
+class WriterAtExit {
+public:
+    void arm(unsigned long number) { m_number = number; }
+    ~WriterAtExit() {
+        HKEY const key = ORX::regCreateKey(HKEY_CURRENT_USER, L"Software\\OrxWorker");
+        if (key == nullptr || !ORX::regWrite(key, L"AtExit", m_number)) {
+            std::fprintf(stderr, "worker: the write at exit failed\n");
+            std::_Exit(2);
+        }
+        ORX::regCloseKey(key);
+    }
+
+private:
+    unsigned long m_number = 0;
+};
+
+int atExit(unsigned long number) {
+    static WriterAtExit writer;
+    writer.arm(number);
+    return ORX::regWrite(kApp, L"Before", number) ? 0 : 2;
+}
+
 int endless() {
     COrxString name;
     for (unsigned long n = 0;; ++n) {
@@ -123,7 +149,12 @@ int main(int argc, char** argv) {
     if (argc == 3 && std::strcmp(argv[1], "machine") == 0) {
         return machine(std::strtoul(argv[2], nullptr, 10));
     }
-    std::fprintf(stderr, "usage: %s share <id> <milliseconds> | endless | machine <number>\n",
+    if (argc == 3 && std::strcmp(argv[1], "at-exit") == 0) {
+        return atExit(std::strtoul(argv[2], nullptr, 10));
+    }
+    std::fprintf(stderr,
+                 "usage: %s share <id> <milliseconds> | endless | machine <number> | "
+                 "at-exit <number>\n",
                  argv[0]);
     return 64;
 }

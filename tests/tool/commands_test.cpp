@@ -152,6 +152,19 @@ TEST(OrxRoundTripTest, DxfAndJsonPreservePointsAndBulgesExactly) {
     EXPECT_EQ(json::parse(scratch.read("2.json")), source);
 }
 
+// An older DXF file names layers in a code page: the longest such name, written to JSON,
+// grew past the length the reader accepts when its bytes became replacement characters.
+TEST(OrxRoundTripTest, ALayerNameInACodePageReadsBackFromJson) {
+    Scratch scratch;
+    std::string const name(255, '\xe4');  // a-umlaut in Windows-1252
+    scratch.write("old.dxf", "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n" + name +
+                                 "\n10\n0\n20\n0\n11\n1\n21\n0\n0\nENDSEC\n0\nEOF\n");
+    ASSERT_EQ(scratch.orx({"convert", "old.dxf", "-o", "new.json"}).status, 0);
+    ToolRun const info = scratch.orx({"info", "new.json"});
+    ASSERT_EQ(info.status, 0) << info.err;
+    EXPECT_NE(info.out.find("layer " + std::string(255, '_')), std::string::npos) << info.out;
+}
+
 // Results are checked through `orx info` of the written file, so each case also reads back
 // what the operation wrote. The plate is [0,10] x [0,6] with a circular hole (area pi) on the
 // left and an arched window (area 2 + pi/2 + 2) on the right; the cutter covers x from 5 to 12.

@@ -124,6 +124,45 @@ private:
     std::string m_where;
 };
 
+// The length of the UTF-8 sequence that starts at text[i], or 0 when no valid one does
+// (a stray continuation byte, an overlong form, a surrogate, a code point past U+10FFFF).
+std::size_t utf8SequenceAt(std::string const& text, std::size_t i) {
+    auto const byte = [&](std::size_t k) {
+        return k < text.size() ? static_cast<unsigned char>(text[k]) : 0u;
+    };
+    auto const tail = [&](std::size_t k) { return (byte(k) & 0xC0u) == 0x80u; };
+    unsigned const b = byte(i);
+    if (b < 0x80) {
+        return 1;
+    }
+    if (b >= 0xC2 && b <= 0xDF) {
+        return tail(i + 1) ? 2 : 0;
+    }
+    if (b >= 0xE0 && b <= 0xEF) {
+        unsigned const low = b == 0xE0 ? 0xA0 : 0x80, high = b == 0xED ? 0x9F : 0xBF;
+        return byte(i + 1) >= low && byte(i + 1) <= high && tail(i + 2) ? 3 : 0;
+    }
+    if (b >= 0xF0 && b <= 0xF4) {
+        unsigned const low = b == 0xF0 ? 0x90 : 0x80, high = b == 0xF4 ? 0x8F : 0xBF;
+        return byte(i + 1) >= low && byte(i + 1) <= high && tail(i + 2) && tail(i + 3) ? 4 : 0;
+    }
+    return 0;
+}
+
+// The layer name as UTF-8 of the same length: every byte that is not part of a UTF-8
+// sequence (a code page's letter from an older DXF file) becomes '_'. A replacement
+// character instead would take three bytes and could push the name past the length the
+// reader accepts.
+std::string utf8LayerName(std::string const& name) {
+    std::string out;
+    for (std::size_t i = 0; i < name.size();) {
+        std::size_t const n = utf8SequenceAt(name, i);
+        out += n == 0 ? std::string("_") : name.substr(i, n);
+        i += n == 0 ? 1 : n;
+    }
+    return out;
+}
+
 }  // namespace
 
 std::vector<VertexList> readJson(std::string const& text, std::string const& file) {
@@ -151,13 +190,11 @@ std::string writeJson(std::vector<VertexList> const& lists) {
             vertices.push_back({{"x", p.x}, {"y", p.y}, {"bulge", p.bulge}});
         }
         document.push_back({{"closed", list.closed},
-                            {"layer", list.layer},
+                            {"layer", utf8LayerName(list.layer)},
                             {"elevation", list.z},
                             {"vertices", vertices}});
     }
-    // Layer names read from an older DXF file may hold bytes of a code page that are not
-    // UTF-8; they are replaced rather than refused.
-    return document.dump(1, ' ', false, json::error_handler_t::replace) + "\n";
+    return document.dump(1, ' ', false) + "\n";
 }
 
 }  // namespace orxtool

@@ -26,6 +26,8 @@ namespace orxtool {
 // layer names. A number too small for a double reads as 0, as the JSON parser makes it.
 std::vector<VertexList> readJson(std::string const& text, std::string const& file);
 
+// A layer name is written as UTF-8 of the same length: each byte that is not part of UTF-8
+// (a code page's letter from an older DXF file) becomes '_', so the file always reads back.
 std::string writeJson(std::vector<VertexList> const& lists);
 
 }  // namespace orxtool

@@ -49,7 +49,10 @@ void Meeting::add(double px, double py) {
 }
 
 double curveValue(Curve const& c, double x, double y) {
-    return c.a * (x * x + y * y) + c.lx * x + c.ly * y + c.f;
+    // A line has no quadratic term: a point far off a tiny segment, whose frame coordinates
+    // square to infinity, would make it 0 * infinity = NaN.
+    double const quadratic = c.a == 0.0 ? 0.0 : c.a * (x * x + y * y);
+    return quadratic + c.lx * x + c.ly * y + c.f;
 }
 
 double curveScale(Curve const& c) {

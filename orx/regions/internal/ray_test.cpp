@@ -94,13 +94,42 @@ int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction)
     return hits % 2;
 }
 
+bool isLevel(COrxVertexArray const& vl, double z) {
+    COrxVertex const* segments = vl.data();
+    for (int k = 0; k < vl.len(); ++k) {
+        if (segments[k].startPoint().z != z || segments[k].endPoint().z != z) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The polyline's plan at the height z.
+COrxVertexArray atHeight(COrxVertexArray const& vl, double z) {
+    COrxVertexArray plan(vl);
+    for (int k = 0; k < plan.len(); ++k) {
+        COrxVertex& v = plan[k];
+        COrxPoint3d s = v.startPoint(), e = v.endPoint();
+        s.z = e.z = z;
+        v.set(s, e, v.bulge());
+    }
+    return plan;
+}
+
 }  // namespace
 
 bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     if (vl.len() < 2) {
         return false;
     }
-    p.z = vl[0].startPoint().z;
+    // The segments compare points in space (isPoint, the ends the ray meets): a polyline
+    // that does not lie at height 0 is tested on its plan there, or a point on it at
+    // several heights would not be on it, a ray through a corner would count it twice, and
+    // heights near the range of doubles would overflow.
+    if (!isLevel(vl, 0.0)) {
+        return rayInside(atHeight(vl, 0.0), p, onBoundary);
+    }
+    p.z = 0.0;
     return insideByRays(angle(vl[0].mid(), p), onBoundary,
                         [&](double direction) { return rayParity(vl, p, direction); });
 }

@@ -136,6 +136,14 @@ public:
 
     std::mutex& mutex() { return m_mutex; }
 
+    // Lets go of the hives; keys still open keep theirs.
+    void closeHives() {
+        std::lock_guard<std::mutex> const lock(m_mutex);
+        for (std::shared_ptr<RegistryHive>& hive : m_hives) {
+            hive.reset();
+        }
+    }
+
 private:
     // The user's hive is read and written by its user alone; the machine and classes hives
     // are read by every user, most of whom may not write their folder.
@@ -161,9 +169,25 @@ private:
     std::unordered_map<HKEY, std::unique_ptr<OpenKey>> m_keys;
 };
 
+// Closes the hives the registry holds open when static objects are destroyed, so that the
+// databases are closed cleanly (the user's write-ahead log folded back).
+class HiveCloser {
+public:
+    explicit HiveCloser(Registry& registry) : m_registry(registry) {}
+    ~HiveCloser() { m_registry.closeHives(); }
+
+private:
+    Registry& m_registry;
+};
+
+// The registry itself is never destroyed: exit handlers and the destructors of static
+// objects that were made before the first registry call run after a static registry would
+// have been destroyed, and may still read and write settings (a destroyed one was used after
+// free). Such a late call opens its hive again.
 Registry& registry() {
-    static Registry instance;
-    return instance;
+    static Registry* const instance = new Registry;
+    static HiveCloser const closer(*instance);
+    return *instance;
 }
 
 // Text travels as wchar_t through the interface and as UTF-8 in the hive.
