@@ -134,8 +134,8 @@ void bulgeSegments(FuzzInput& in) {
     }
     bool const extended = in.below(4) == 0;
     COrxPoint3dArray pts;
-    bool const found = ORX::g_bulg_int(pts, a.startPoint(), a.endPoint(), a.bulge(),
-                                       b.startPoint(), b.endPoint(), b.bulge(), extended);
+    bool const found = ORX::g_bulg_int(pts, a.startPoint(), a.endPoint(), a.bulge(), b.startPoint(),
+                                       b.endPoint(), b.bulge(), extended);
     checkFound(pts, found);
     COrxVertexArray both;
     both.append(a).append(b);

@@ -24,7 +24,8 @@ int decodeCode(FuzzInput& in) {
     if (in.below(16) == 0) {
         return static_cast<int>(in.u32());
     }
-    return static_cast<int>(ORX::g_outline_code(static_cast<int>(in.below(ORX::kOutlineTableSize))));
+    return static_cast<int>(
+        ORX::g_outline_code(static_cast<int>(in.below(ORX::kOutlineTableSize))));
 }
 
 double decodeDimension(FuzzInput& in) {

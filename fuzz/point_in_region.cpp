@@ -76,7 +76,8 @@ COrxPoint3d decodeQuery(FuzzInput& in, Region const& region, bool& onLoop, bool&
             }
             onLoop = true;
             onOuter = i == 0;
-            COrxVertex const& s = loop[static_cast<int>(in.below(static_cast<unsigned>(loop.len())))];
+            COrxVertex const& s =
+                loop[static_cast<int>(in.below(static_cast<unsigned>(loop.len())))];
             return in.flag() ? s.mid() : s.startPoint();
         }
         case 1: {

@@ -260,17 +260,18 @@ void splitUp(FuzzInput& in, COrxVertexArray& vl) {
 using Step = void (*)(FuzzInput&, COrxVertexArray&);
 
 void showStep(unsigned step, COrxVertexArray const& vl) {
-    char const* const names[] = {"break",    "norm",     "offset",   "join",   "remove",
-                                 "insert",   "close",    "pts",      "extents", "distAt",
-                                 "pointAt",  "midpoint", "intersect", "corners",
-                                 "offset one segment", "split"};
+    char const* const names[] = {
+        "break",   "norm",     "offset",    "join",    "remove",
+        "insert",  "close",    "pts",       "extents", "distAt",
+        "pointAt", "midpoint", "intersect", "corners", "offset one segment",
+        "split"};
     showOperand(names[step], vl);
 }
 
-Step const kSteps[] = {breakAt,       normalise,     offsetBy,     joinWith,  removeOne,
-                       insertOne,     closeGaps,     listPoints,   boxAround, distanceAlong,
-                       pointAlong,    midpointOn,    meetOther,    roundCorners,
-                       moveOneSegment, splitUp};
+Step const kSteps[] = {breakAt,   normalise,     offsetBy,       joinWith,
+                       removeOne, insertOne,     closeGaps,      listPoints,
+                       boxAround, distanceAlong, pointAlong,     midpointOn,
+                       meetOther, roundCorners,  moveOneSegment, splitUp};
 constexpr unsigned kStepCount = sizeof(kSteps) / sizeof(kSteps[0]);
 
 }  // namespace

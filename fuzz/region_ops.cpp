@@ -12,8 +12,8 @@
 
 namespace {
 
-bool (*const kOperations[])(Region, Region, RegionList&) = {
-    ORX::g_region_union, ORX::g_region_diff, ORX::g_region_sect};
+bool (*const kOperations[])(Region, Region, RegionList&) = {ORX::g_region_union, ORX::g_region_diff,
+                                                            ORX::g_region_sect};
 
 // The second region: a region of its own, or the first one's outer loop changed a little.
 Region decodeSecond(FuzzInput& in, Region const& first) {

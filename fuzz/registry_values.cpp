@@ -39,8 +39,8 @@ class PrivateHive {
 public:
     PrivateHive() {
         namespace fs = std::filesystem;
-        fs::path const base = fs::is_directory("/dev/shm") ? fs::path("/dev/shm")
-                                                           : fs::temp_directory_path();
+        fs::path const base =
+            fs::is_directory("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path();
         std::string pattern = (base / "orx-fuzz-registry-XXXXXX").string();
         if (mkdtemp(pattern.data()) != nullptr) {
             m_folder = pattern;

@@ -73,8 +73,7 @@ void checkEscapes(std::wstring const& text, bool wellFormed) {
         return;
     }
     COrxString html(text.c_str());
-    expectText(html.escapeHtml(L"xU").unEscapeHtml(), text, "unEscapeHtml undoes escapeHtml",
-               text);
+    expectText(html.escapeHtml(L"xU").unEscapeHtml(), text, "unEscapeHtml undoes escapeHtml", text);
     COrxString wide(text.c_str());
     wide.escapeWideChar();
     for (int i = 0; i < wide.len(); ++i) {

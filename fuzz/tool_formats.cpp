@@ -25,8 +25,7 @@ using Lists = std::vector<VertexList>;
 
 // Layer names: the default, plain ones, one with a space, UTF-8 and code-page bytes, and the
 // longest allowed.
-char const* const kLayers[] = {"0", "plate", "Web 2", "St\xc3\xa4rke", "Ma\xdf",
-                               "x-y_z.w", "L"};
+char const* const kLayers[] = {"0", "plate", "Web 2", "St\xc3\xa4rke", "Ma\xdf", "x-y_z.w", "L"};
 constexpr unsigned kLayerCount = sizeof(kLayers) / sizeof(kLayers[0]);
 
 bool sameLists(Lists const& a, Lists const& b) {

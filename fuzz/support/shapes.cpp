@@ -15,8 +15,8 @@ constexpr unsigned kBulgeCount = sizeof(kBulges) / sizeof(kBulges[0]);
 // tolerance, grown far out.
 double const kScales[] = {1.0, 1.0, 1.0, 0.5, 10.0, 1e-3, 1e-5, 1e3, 1e6};
 constexpr unsigned kScaleCount = sizeof(kScales) / sizeof(kScales[0]);
-double const kOrigins[][2] = {{0.0, 0.0}, {0.0, 0.0}, {0.0, 0.0}, {1e7, 1e7}, {-3e6, 5e6},
-                              {1e15, 0.0}};
+double const kOrigins[][2] = {{0.0, 0.0}, {0.0, 0.0},  {0.0, 0.0},
+                              {1e7, 1e7}, {-3e6, 5e6}, {1e15, 0.0}};
 constexpr unsigned kOriginCount = sizeof(kOrigins) / sizeof(kOrigins[0]);
 
 COrxPoint3d moved(COrxPoint3d const& p, double scale, COrxPoint3d const& origin) {
@@ -165,7 +165,8 @@ COrxVertexArray decodeRelatedLoop(FuzzInput& in, COrxVertexArray const& first) {
         case 3:
             return withExtraVertex(first, in);
         case 4:
-            return rotatedStart(first, static_cast<int>(in.below(static_cast<unsigned>(first.len()))));
+            return rotatedStart(first,
+                                static_cast<int>(in.below(static_cast<unsigned>(first.len()))));
         default:
             return decodeLoop(in);
     }

@@ -11,8 +11,8 @@ constexpr unsigned kSpecialCount = sizeof(kSpecial) / sizeof(kSpecial[0]) - 1;
 
 // Code points outside ASCII: Latin-1 letters and signs, the byte order mark, the euro sign,
 // a CJK character, the replacement character and one beyond the Basic Multilingual Plane.
-char32_t const kWide[] = {0xA0, 0xA9, 0xB0, 0xE4, 0xE9, 0xDF, 0xFF, 0x152, 0x3A9,
-                          0x20AC, 0x4E2D, 0xFEFF, 0xFFFD, 0x1F600, 0x10FFFF};
+char32_t const kWide[] = {0xA0,  0xA9,   0xB0,   0xE4,   0xE9,   0xDF,    0xFF,    0x152,
+                          0x3A9, 0x20AC, 0x4E2D, 0xFEFF, 0xFFFD, 0x1F600, 0x10FFFF};
 constexpr unsigned kWideCount = sizeof(kWide) / sizeof(kWide[0]);
 
 // Units a well-formed text never holds: unpaired surrogates and, where wchar_t has 32

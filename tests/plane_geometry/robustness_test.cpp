@@ -108,7 +108,8 @@ TEST(PlaneGeometryRobustnessTest, ATinyStraightSegmentMeasuresPointsFarBeyondIts
     // Measured in the segment's frame, where lengths count in half chords, the point lies
     // 1e219 half chords away: its squared distance overflowed and a line's zero quadratic
     // term made NaN of it.
-    COrxPoint3d const s(4.0317920028340174e-313, 0, 0), e(0, 0, 0), p(0, -1.7785661039778271e-93, 0);
+    COrxPoint3d const s(4.0317920028340174e-313, 0, 0), e(0, 0, 0),
+        p(0, -1.7785661039778271e-93, 0);
     EXPECT_NEAR(ORX::g_bulg_pt_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
     EXPECT_NEAR(ORX::g_bulg_circ_dist(s, e, 0.0, p), 1.7785661039778271e-93, 1e-100);
     COrxPoint3dArray pts;

@@ -33,8 +33,8 @@ TEST(RegionTest, PointInALoopWhosePointsLieAtSeveralHeightsIsPlanar) {
     Region const plate = region({diamond});
     for (double z : {0.0, 5.0, -120.0}) {
         SCOPED_TRACE(z);
-        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(0, 2, z)), 0);   // a corner
-        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(1, 1, z)), 0);   // an edge
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(0, 2, z)), 0);  // a corner
+        EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(1, 1, z)), 0);  // an edge
         EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(0.5, 0, z)), 1);
         EXPECT_EQ(ORX::g_vll_pt_inside(plate, COrxPoint3d(3, 0, z)), -1);
         EXPECT_TRUE(ORX::g_vl_pt_inside(diamond, COrxPoint3d(-2, 0, z), true));

@@ -40,8 +40,8 @@ ArcFrame::ArcFrame(COrxPoint3d const& start, COrxPoint3d const& end, double bulg
     m_h = chord / 2;
     // A chord of the smallest subnormal length has no half: the frame would divide by zero,
     // so such a segment has coinciding ends, as one of length zero.
-    m_valid = m_h > 0.0 && std::isfinite(chord) && std::isfinite(bulge) &&
-              std::isfinite(start.z) && std::isfinite(end.z);
+    m_valid = m_h > 0.0 && std::isfinite(chord) && std::isfinite(bulge) && std::isfinite(start.z) &&
+              std::isfinite(end.z);
     m_ux = m_valid ? dx / chord : 1.0;
     m_uy = m_valid ? dy / chord : 0.0;
     m_mx = start.x + dx / 2;
