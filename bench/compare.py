@@ -131,7 +131,7 @@ def collect(runs, clock):
 
 
 def format_time(ms, operation):
-    value = ms * 1e3 if operation.startswith("pt_") else ms
+    value = ms * 1e3 if operation.startswith(("pt_", "prepared_pt_")) else ms
     if value >= 100:
         return "%.0f" % value
     if value >= 10:
