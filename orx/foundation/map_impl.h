@@ -119,6 +119,7 @@ bool COrxMapTempl<K, V>::grow() {
         return false;
     }
     if (m_count > 0) {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
         std::memcpy(table, m_table, m_count * sizeof(*table));
     }
     delete[] m_table;
@@ -132,6 +133,7 @@ bool COrxMapTempl<K, V>::insertAt(unsigned long index, data* entry) {
     if (!grow()) {
         return false;
     }
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
     std::memmove(m_table + index + 1, m_table + index, (m_count - index) * sizeof(*m_table));
     m_table[index] = entry;
     ++m_count;
@@ -221,6 +223,7 @@ bool COrxMapTempl<K, V>::removeAt(K const& key) {
     }
     delete m_table[index];
     --m_count;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
     std::memmove(m_table + index, m_table + index + 1, (m_count - index) * sizeof(*m_table));
     m_table[m_count] = nullptr;
     return true;
