@@ -27,12 +27,10 @@ constexpr double kMeasurable = 1e5;
 constexpr double kClearance = 1e-3;
 
 // A loop whose box (tight around its arcs) lies within kMeasurable: an arc of a huge bulge
-// reaches far beyond its ends, and a ray shorter than the loop may miss it. Bulges stay
-// moderate (isModerate: an arc short of the full circle by a thousandth of a turn): the box
-// of an arc that closes to a hair's breadth of the full circle is not that of its circle.
+// reaches far beyond its ends, and a ray shorter than the loop may miss it.
 bool measurable(COrxVertexArray const& vl) {
     COrxPoint3d low, high;
-    if (!isFinite(vl) || !isModerate(vl) || !vl.extents(low, high)) {
+    if (!isFinite(vl) || !vl.extents(low, high)) {
         return false;
     }
     return std::fabs(low.x) <= kMeasurable && std::fabs(low.y) <= kMeasurable &&

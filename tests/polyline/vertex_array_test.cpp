@@ -1,5 +1,7 @@
 #include "orx/polyline/vertex_array.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "tests/support/shapes.h"
@@ -128,6 +130,23 @@ TEST(COrxVertexArrayTest, ExtentsAreTightAroundArcs) {
     COrxVertexArray minor(COrxVertex(pt(1, 0), pt(0, 1), 0.2));  // no axis point inside
     EXPECT_TRUE(minor.extents(lo, hi));
     EXPECT_EQ(hi, pt(1, 1));
+}
+
+// An arc a hair's breadth short of its full circle spans its circle across the chord and its
+// sagitta along it, however short the chord and however large the bulge (its angle then
+// rounds to pi).
+TEST(COrxVertexArrayTest, ExtentsOfNearlyFullCirclesSpanTheCircle) {
+    for (double const chord : {1e-13, 1.0, 1e3}) {
+        for (double const bulge : {1e3, 1e8, 1e16, -5e92}) {
+            COrxVertexArray const vl(COrxVertex(pt(0, 0), pt(chord, 0), bulge));
+            double const radius = chord / 4 * (std::fabs(bulge) + 1 / std::fabs(bulge));
+            COrxPoint3d lo, hi;
+            ASSERT_TRUE(vl.extents(lo, hi));
+            EXPECT_NEAR(hi.x - lo.x, 2 * radius, 1e-9 * radius) << chord << " " << bulge;
+            double const sagitta = std::fabs(bulge) * chord / 2;  // the height across the chord
+            EXPECT_NEAR(hi.y - lo.y, sagitta, 1e-9 * radius) << chord << " " << bulge;
+        }
+    }
 }
 
 TEST(COrxVertexArrayTest, CornerPointsWithTessellatedArcs) {

@@ -40,28 +40,32 @@ SegmentBox chordBox(COrxVertex const& v) {
 // when that direction is one of its radial directions: (h / kappa) (1 - gamma cos delta),
 // delta the angle between it and the sagitta's direction, written as 2 sin^2(theta/4) + gamma
 // 2 sin^2(delta/2) so that a nearly straight arc does not cancel; false when the direction
-// lies outside the sweep.
+// lies outside the sweep. kappa = sin(theta/2), gamma = cos(theta/2) and sin^2(theta/4) come
+// from the bulge itself, not from its angle: for an arc a hair's breadth short of the full
+// circle the angle rounds to pi and its sine would be off by orders of magnitude. A reach
+// beyond the largest double is infinite, so the box still holds the arc.
 bool arcReach(COrxVertex const& v, double dx, double dy, double& reach) {
-    double const b = v.bulge();
+    double const b = std::fabs(v.bulge());
     double const cx = v.endPoint().x - v.startPoint().x, cy = v.endPoint().y - v.startPoint().y;
     double const chord = std::hypot(cx, cy);
     if (!(chord > 0.0)) {
         return false;
     }
-    double const sign = b < 0.0 ? -1.0 : 1.0;
+    double const sign = v.bulge() < 0.0 ? -1.0 : 1.0;
     // The sagitta points right of the chord for a positive bulge.
     double const sx = sign * cy / chord, sy = -sign * cx / chord;
     double const delta = std::atan2(sx * dy - sy * dx, sx * dx + sy * dy);
-    double const quarter = std::atan(std::fabs(b));
-    if (std::fabs(delta) > 2 * quarter) {
+    if (std::fabs(delta) > 2 * std::atan(b)) {
         return false;
     }
-    double const h = chord / 2;
-    double const sinQuarter = std::sin(quarter), sinHalf = std::sin(delta / 2);
-    double const gamma = std::cos(2 * quarter);
-    double const kappa = std::sin(2 * quarter);  // 2|b| / (1 + b^2)
-    reach = h / kappa * (2 * sinQuarter * sinQuarter + gamma * 2 * sinHalf * sinHalf);
-    return std::isfinite(reach);
+    // With u = min(b, 1/b) every quotient below stays within range for any finite bulge.
+    double const u = b <= 1.0 ? b : 1.0 / b;
+    double const kappa = 2 * u / (1 + u * u);                             // 2b / (1 + b^2)
+    double const gamma = (b <= 1.0 ? 1.0 : -1.0) * (1 - u * u) / (1 + u * u);  // (1 - b^2) / (1 + b^2)
+    double const sinQuarterSquared = b <= 1.0 ? b * b / (1 + b * b) : 1 / (1 + u * u);
+    double const sinHalf = std::sin(delta / 2);
+    reach = chord / 2 / kappa * (2 * sinQuarterSquared + gamma * 2 * sinHalf * sinHalf);
+    return !std::isnan(reach);
 }
 
 }  // namespace
