@@ -215,6 +215,25 @@ TEST_F(RegistryProcessesTest, AReaderNeedsNothingButTheMachineHiveFile) {
     }
 }
 
+// Processes that open a hive nobody has created yet all write to it: switching the new
+// database to its journal mode used to fail at once for those that found it held.
+TEST_F(RegistryProcessesTest, ProcessesOpeningANewHiveTogetherAllWrite) {
+    for (int trial = 0; trial < 10; ++trial) {
+        orx_test::ScratchDirectory fresh;
+        orx_test::ScopedEnv folder("ORX_REGISTRY_DIR", fresh.narrow());
+        std::vector<std::unique_ptr<Worker>> workers;
+        for (int id = 0; id < 6; ++id) {
+            workers.push_back(std::make_unique<Worker>(
+                std::vector<std::string>{"share", std::to_string(id), "1"}));
+            ASSERT_TRUE(workers.back()->started());
+        }
+        for (auto const& worker : workers) {
+            std::string output;
+            EXPECT_EQ(worker->finish(output), 0) << "trial " << trial;
+        }
+    }
+}
+
 TEST_F(RegistryProcessesTest, ConcurrentWritersLoseNothingAndReadNothingTorn) {
     std::vector<std::unique_ptr<Worker>> workers;
     for (int id = 0; id < kWorkers; ++id) {

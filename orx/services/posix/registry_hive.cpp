@@ -5,9 +5,11 @@
 
 #include <cctype>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "orx/services/internal/registry_api.h"
@@ -57,6 +59,21 @@ long errorFrom(int result) {
             return kErrorAccessDenied;
         default:
             return kErrorRegistryIoFailed;
+    }
+}
+
+// Runs a statement that SQLite answers "busy" at once instead of calling the busy handler:
+// switching a database into WAL mode needs it to itself, and several processes that open a
+// new hive together each find it held by the others. Retried for up to the busy timeout.
+int executeWaitingOutBusy(sqlite3* db, char const* sql) {
+    auto const end = std::chrono::steady_clock::now() +
+                     std::chrono::milliseconds(kRegistryBusyTimeoutMs);
+    for (;;) {
+        int const result = sqliteExecute(db, sql);
+        if ((result & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() >= end) {
+            return result;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
 }
 
@@ -284,7 +301,7 @@ long RegistryHive::configureJournal() {
     if (m_journal == HiveJournal::writeAhead) {
         int persistWal = 1;
         sqlite3_file_control(m_db, "main", SQLITE_FCNTL_PERSIST_WAL, &persistWal);
-        if (sqliteExecute(m_db, "PRAGMA journal_mode=WAL") != SQLITE_OK) {
+        if (executeWaitingOutBusy(m_db, "PRAGMA journal_mode=WAL") != SQLITE_OK) {
             return kErrorRegistryIoFailed;
         }
     } else {
