@@ -119,6 +119,10 @@ double ArcFrame::distanceToSegment(FramePoint const& q) const {
     if (inSweep(q)) {
         return std::fabs(circleDistance(q));
     }
+    return nearerEndDistance(q);
+}
+
+double ArcFrame::nearerEndDistance(FramePoint const& q) const {
     return std::fmin(planLength(q.x + 1, q.y), planLength(q.x - 1, q.y));
 }
 
@@ -161,11 +165,26 @@ double ArcFrame::sweepTo(FramePoint const& q) const {
     return phi;
 }
 
+bool ArcFrame::nearCircle(FramePoint const& q, double tol) const {
+    // The frame's curve has unit scale (kappa^2 + gamma^2 = 1), so the distance is at most
+    // twice the curve's value: a value within a quarter of the band answers for it. Rounding
+    // cannot turn that answer, and a NaN or overflowed value takes the full computation.
+    Curve const c = frameCurve(m_kappa, m_gamma, m_sign);
+    if (4 * m_h * std::fabs(curveValue(c, q.x, q.y)) <= tol) {
+        return true;
+    }
+    return m_h * std::fabs(curveDistance(c, q.x, q.y)) <= tol;
+}
+
+bool ArcFrame::nearSegment(FramePoint const& q, double tol) const {
+    if (inSweep(q)) {
+        return nearCircle(q, tol);
+    }
+    return m_h * nearerEndDistance(q) <= tol;
+}
+
 bool ArcFrame::holdsArc(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) const {
-    double const within = COrxPoint3d::tol / m_h;  // in half chords
-    auto near = [this, within](double x, double y) {
-        return std::fabs(circleDistance(toFrame(x, y))) <= within;
-    };
+    auto near = [this](double x, double y) { return nearCircle(toFrame(x, y), COrxPoint3d::tol); };
     // The middle (as g_bulg_mid gives it for an arc) last: most pairs are told apart by an end.
     double const dx = end.x - start.x, dy = end.y - start.y;
     double const mx = (start.x + end.x) / 2 + dy * (bulge / 2);

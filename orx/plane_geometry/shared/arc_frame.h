@@ -81,6 +81,11 @@ public:
     // [0, 2pi): the sweep of the arc that setEndPoint(q) makes.
     double sweepTo(FramePoint const& q) const;
 
+    // h |circleDistance(q)| <= tol and h distanceToSegment(q) <= tol, with h the half chord:
+    // the same answers, but a point well inside the band is told without a square root.
+    bool nearCircle(FramePoint const& q, double tol) const;
+    bool nearSegment(FramePoint const& q, double tol) const;
+
     // The segment start-end-bulge lies within the point tolerance of this circle (or line)
     // at its ends and at its middle.
     bool holdsArc(COrxPoint3d const& start, COrxPoint3d const& end, double bulge) const;
@@ -94,6 +99,7 @@ private:
     double sigmaStart(FramePoint const& q) const;
     double sigmaEnd(FramePoint const& q) const;
     double angleFromStart(FramePoint const& q) const;
+    double nearerEndDistance(FramePoint const& q) const;
 
     double m_mx, m_my, m_mz;  // chord midpoint
     double m_ux, m_uy;        // unit chord direction

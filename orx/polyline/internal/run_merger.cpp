@@ -98,7 +98,7 @@ bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
     for (int k = 1; k < count; ++k) {
         COrxPoint3d const& p = s.at(k).startPoint();
         if (!frame.valid() ||
-            !(frame.halfChord() * frame.distanceToSegment(frame.toFrame(p)) <= COrxPoint3d::tol)) {
+            !frame.nearSegment(frame.toFrame(p), COrxPoint3d::tol)) {
             return false;
         }
     }

@@ -17,24 +17,23 @@ constexpr double kEntriesPerSegment = 3.0;
 // level with the chord's span (the ray's half-open rule, as g_bulg_winding has it), and for
 // an arc of at most a half circle also lies outside the chord's box widened by twice the
 // bound |bulge| (|dx| + |dy|) / 2 of the arc's height, which covers the rounding of the bound.
-// A NaN anywhere answers true.
+// A NaN anywhere answers true. The height test comes first: it rejects almost every segment
+// of a plain pass.
 bool mayWind(COrxVertex const& v, COrxPoint3d const& p) {
     COrxPoint3d const& a = v.startPoint();
     COrxPoint3d const& b = v.endPoint();
-    if ((a.y <= p.y && p.y < b.y) || (b.y <= p.y && p.y < a.y)) {
-        return true;
-    }
     double const bulge = v.bulge();
-    if (bulge == 0.0) {
-        return false;
-    }
     if (!(std::fabs(bulge) <= 1.0)) {
         return true;
     }
     double const reach = std::fabs(bulge) * (std::fabs(b.x - a.x) + std::fabs(b.y - a.y));
-    bool const off = p.y < std::min(a.y, b.y) - reach || p.y > std::max(a.y, b.y) + reach ||
-                     p.x < std::min(a.x, b.x) - reach || p.x > std::max(a.x, b.x) + reach;
-    return !off;
+    if (p.y < std::min(a.y, b.y) - reach || p.y > std::max(a.y, b.y) + reach) {
+        return false;
+    }
+    if ((a.y <= p.y && p.y < b.y) || (b.y <= p.y && p.y < a.y)) {
+        return true;
+    }
+    return bulge != 0.0 && !(p.x < std::min(a.x, b.x) - reach || p.x > std::max(a.x, b.x) + reach);
 }
 
 }  // namespace
