@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/shared/arc_frame.h"
+#include "orx/plane_geometry/shared/circle_probe.h"
 #include "orx/plane_geometry/shared/bulge_sweep.h"
 
 namespace ORX {
@@ -106,36 +108,52 @@ bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
     return true;
 }
 
-// The arc's ends and midpoint lie within the tolerance of the circle of `frame` (as
-// COrxVertex::coLinear tests them, with the frame made once per arc).
-bool onCircle(COrxVertex const& arc, ArcFrame const& frame) {
-    return frame.valid() && frame.holdsArc(arc.startPoint(), arc.endPoint(), arc.bulge());
-}
+// An arc of a run with its circle: the quick probe is made at once, the chord frame only
+// when the probe cannot tell.
+class RunArc {
+public:
+    explicit RunArc(COrxVertex const& arc)
+        : m_arc(&arc), m_probe(arc.startPoint(), arc.endPoint(), arc.bulge()) {}
 
-// next continues the run of arcs that ends with `last` (whose frame is given) and began at
-// `start`: they meet, turn the same way, lie on one circle, and do not close it.
-bool arcContinues(COrxVertex const& last, ArcFrame const& lastFrame, COrxVertex const& next,
-                  ArcFrame const& nextFrame, COrxPoint3d const& start) {
-    return !next.isStraight() && (last.bulge() > 0.0) == (next.bulge() > 0.0) &&
-           last.endPoint() == next.startPoint() && onCircle(next, lastFrame) &&
-           onCircle(last, nextFrame) && next.endPoint() != start;
-}
+    // The other arc's ends and midpoint lie within the tolerance of this arc's circle (as
+    // COrxVertex::coLinear tests them).
+    bool holds(COrxVertex const& other) const {
+        if (m_probe.surelyHolds(other.startPoint(), other.endPoint(), other.bulge(),
+                                COrxPoint3d::tol)) {
+            return true;
+        }
+        if (!m_frame) {
+            m_frame.emplace(m_arc->startPoint(), m_arc->endPoint(), m_arc->bulge());
+        }
+        return m_frame->valid() &&
+               m_frame->holdsArc(other.startPoint(), other.endPoint(), other.bulge());
+    }
 
-ArcFrame frameOf(COrxVertex const& v) {
-    return ArcFrame(v.startPoint(), v.endPoint(), v.bulge());
+private:
+    COrxVertex const* m_arc;
+    CircleProbe m_probe;
+    mutable std::optional<ArcFrame> m_frame;
+};
+
+// next continues the run of arcs that ends with `last` and began at `start`: they meet, turn
+// the same way, lie on one circle, and do not close it.
+bool arcContinues(RunArc const& last, COrxVertex const& lastArc, RunArc const& next,
+                  COrxVertex const& nextArc, COrxPoint3d const& start) {
+    return !nextArc.isStraight() && (lastArc.bulge() > 0.0) == (nextArc.bulge() > 0.0) &&
+           lastArc.endPoint() == nextArc.startPoint() && last.holds(nextArc) &&
+           next.holds(lastArc) && nextArc.endPoint() != start;
 }
 
 Run arcRun(Sequence const& s, int maxCount) {
     std::vector<double> angles{angleOf(s.at(0))};  // prefix sums of the pieces' angles
     int count = 1;
-    ArcFrame lastFrame = frameOf(s.at(0));
+    RunArc last(s.at(0));
     while (count < maxCount) {
-        ArcFrame const nextFrame = frameOf(s.at(count));
-        if (!arcContinues(s.at(count - 1), lastFrame, s.at(count), nextFrame,
-                          s.at(0).startPoint())) {
+        RunArc const next(s.at(count));
+        if (!arcContinues(last, s.at(count - 1), next, s.at(count), s.at(0).startPoint())) {
             break;
         }
-        lastFrame = nextFrame;
+        last = next;
         double const angle = angles.back() + angleOf(s.at(count));
         if (!(std::fabs(angle) < kTwoPi)) {
             break;

@@ -8,8 +8,8 @@
 
 #include <vector>
 
+#include "orx/polyline/shared/box_pairs.h"
 #include "orx/polyline/shared/segment_box.h"
-#include "orx/polyline/shared/segment_grid.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {
@@ -21,13 +21,12 @@ template <class Visit>
 void forEachNearPair(COrxVertexArray const& a, COrxVertexArray const& b, Visit visit) {
     std::vector<SegmentBox> const mine = segmentBoxes(a);
     std::vector<SegmentBox> const theirs = segmentBoxes(b);
-    SegmentGrid const grid(theirs);
+    BoxPairs const pairs(mine, theirs);
     std::vector<int> near;
     for (std::size_t i = 0; i < mine.size(); ++i) {
-        grid.query(mine[i], near);
+        pairs.near(static_cast<int>(i), near);
         for (int j : near) {
-            if (mayOverlap(mine[i], theirs[static_cast<std::size_t>(j)]) &&
-                !visit(static_cast<int>(i), j)) {
+            if (!visit(static_cast<int>(i), j)) {
                 return;
             }
         }

@@ -5,7 +5,7 @@
 
 #include "orx/geom/tolerance.h"
 #include "orx/polyline/shared/segment_box.h"
-#include "orx/polyline/shared/segment_grid.h"
+#include "orx/polyline/shared/box_pairs.h"
 
 namespace ORX {
 namespace internal {
@@ -221,20 +221,12 @@ void cutOperands(PieceLoop& a, PieceLoop& b, int mode, std::vector<char>* nearA,
                  std::vector<char>* nearB) {
     std::vector<SegmentBox> const boxesA = originalBoxes(a);
     std::vector<SegmentBox> const boxesB = originalBoxes(b);
-    SegmentGrid const grid(boxesB);
+    BoxPairs const pairs(boxesA, boxesB);
     PairCutter cutter(a, b, mode);
     long long budget = cutBudget(a.originals(), b.originals());
     std::vector<int> candidates;
     for (int o = 0; o < a.originals() && budget > 0; ++o) {
-        SegmentBox const& box = boxesA[static_cast<std::size_t>(o)];
-        grid.query(box, candidates);
-        std::size_t kept = 0;
-        for (int c : candidates) {
-            if (mayOverlap(box, boxesB[static_cast<std::size_t>(c)])) {
-                candidates[kept++] = c;
-            }
-        }
-        candidates.resize(kept);
+        pairs.near(o, candidates);
         if (candidates.empty()) {
             continue;
         }

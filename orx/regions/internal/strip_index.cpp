@@ -36,12 +36,32 @@ bool mayWind(COrxVertex const& v, COrxPoint3d const& p) {
     return bulge != 0.0 && !(p.x < std::min(a.x, b.x) - reach || p.x > std::max(a.x, b.x) + reach);
 }
 
+// The heights p.y may take for mayWind(v, p) to be true (the first test of mayWind): the
+// chord's span widened by the arc's reach; everything for an arc beyond a half circle, a NaN
+// or a reach that overflows.
+HeightSpan heightSpan(COrxVertex const& v) {
+    COrxPoint3d const& a = v.startPoint();
+    COrxPoint3d const& b = v.endPoint();
+    double const bulge = v.bulge();
+    double const reach = std::fabs(bulge) * (std::fabs(b.x - a.x) + std::fabs(b.y - a.y));
+    HeightSpan const span{std::min(a.y, b.y) - reach, std::max(a.y, b.y) + reach};
+    if (!(std::fabs(bulge) <= 1.0) || !(span.low <= span.high)) {
+        return HeightSpan{-HUGE_VAL, HUGE_VAL};
+    }
+    return span;
+}
+
 }  // namespace
 
 StripIndex::StripIndex(std::vector<COrxVertex const*> segments, int expectedQueries)
     : m_segments(std::move(segments)), m_plain(expectedQueries <= kPlainQueries) {
     if (!m_plain) {
         build();
+        return;
+    }
+    m_spans.reserve(m_segments.size());
+    for (COrxVertex const* v : m_segments) {
+        m_spans.push_back(heightSpan(*v));
     }
 }
 
@@ -121,9 +141,13 @@ void StripIndex::visitStrip(int strip, Visit visit) const {
 int StripIndex::winding(COrxPoint3d const& p) const {
     int total = 0;
     if (m_plain) {
-        for (COrxVertex const* v : m_segments) {
-            if (mayWind(*v, p)) {
-                total += g_bulg_winding(v->startPoint(), v->endPoint(), v->bulge(), p);
+        for (std::size_t k = 0; k < m_segments.size(); ++k) {
+            if (p.y < m_spans[k].low || p.y > m_spans[k].high) {
+                continue;  // mayWind would say no
+            }
+            COrxVertex const& v = *m_segments[k];
+            if (mayWind(v, p)) {
+                total += g_bulg_winding(v.startPoint(), v.endPoint(), v.bulge(), p);
             }
         }
         return total;

@@ -23,6 +23,12 @@
 namespace ORX {
 namespace internal {
 
+// The heights at which a point may be wound round by a segment.
+struct HeightSpan {
+    double low;
+    double high;
+};
+
 class StripIndex {
 public:
     static constexpr int kPlainQueries = 16;
@@ -47,6 +53,7 @@ private:
 
     std::vector<COrxVertex const*> m_segments;
     bool m_plain = false;             // no strips: every question is a pass over all segments
+    std::vector<HeightSpan> m_spans;  // of a plain index: per segment
     std::vector<SegmentBox> m_boxes;  // widened by the pruning margin
     double m_y0 = 0.0, m_height = 1.0;
     int m_strips = 0;
