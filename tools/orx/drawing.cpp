@@ -51,6 +51,11 @@ std::string layerNameProblem(std::string const& name) {
     if (name.size() > kMaxLayerNameBytes) {
         return "is longer than " + std::to_string(kMaxLayerNameBytes) + " bytes";
     }
+    // A drawing file keeps no space at either end of a name: one written there would be
+    // read back without it.
+    if (name.front() == ' ' || name.back() == ' ') {
+        return "begins or ends with a space";
+    }
     for (char c : name) {
         if (static_cast<unsigned char>(c) < 0x20 || std::strchr("<>/\\\":;?*|=`", c) != nullptr) {
             return "holds a character a layer name cannot hold (a control character or one of "

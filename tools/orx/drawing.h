@@ -33,8 +33,8 @@ struct VertexList {
     std::string layer = kDefaultLayer;
 };
 
-// Why `name` cannot be a layer name (empty, too long, a control character or one of
-// <>/\":;?*|=`), or an empty text when it can.
+// Why `name` cannot be a layer name (empty, too long, a space at either end, a control
+// character or one of <>/\":;?*|=`), or an empty text when it can.
 std::string layerNameProblem(std::string const& name);
 
 // The segments of a vertex list: one per point pair, plus the closing one when closed. A

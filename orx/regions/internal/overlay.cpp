@@ -25,7 +25,13 @@ struct Operand {
             COrxVertexArray const& loop = *each;
             pieces.emplace_back(loop);
             near.emplace_back(static_cast<std::size_t>(loop.len()), 0);
-            boxes.push_back(polylineBox(loop));
+        }
+    }
+
+    // The box of each loop, for skipping pairs of loops that lie apart.
+    void makeBoxes(LoopRefs const& loops) {
+        for (COrxVertexArray const* each : loops) {
+            boxes.push_back(polylineBox(*each));
         }
     }
 
@@ -54,7 +60,16 @@ struct Operand {
     std::vector<SegmentBox> boxes;        // per loop
 };
 
-void cutAll(Operand& a, Operand& b) {
+// Cuts every loop of a against every loop of b. Pairs of loops whose boxes lie apart are
+// skipped; for one loop against one the boxes are not worth making, as cutting finds the
+// segment pairs that may meet by itself.
+void cutAll(Operand& a, Operand& b, LoopRefs const& loopsA, LoopRefs const& loopsB) {
+    if (a.pieces.size() == 1 && b.pieces.size() == 1) {
+        cutOperands(a.pieces[0], b.pieces[0], 3, &a.near[0], &b.near[0]);
+        return;
+    }
+    a.makeBoxes(loopsA);
+    b.makeBoxes(loopsB);
     for (std::size_t i = 0; i < a.pieces.size(); ++i) {
         for (std::size_t j = 0; j < b.pieces.size(); ++j) {
             if (mayOverlap(a.boxes[i], b.boxes[j])) {
@@ -137,7 +152,7 @@ LoopRefs refsOf(Loops const& loops) {
 
 COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, OverlayOp op) {
     Operand a(loopsA), b(loopsB);
-    cutAll(a, b);
+    cutAll(a, b, loopsA, loopsB);
     StripIndex const areaA(a.piecesNear(true), testsOf(b)), areaB(b.piecesNear(true), testsOf(a));
     std::vector<COrxVertex const*> const nearB = b.piecesNear(false);
     PieceMatcher const matcher(nearB);
