@@ -13,8 +13,12 @@ namespace ORX {
 bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode) {
     internal::PieceLoop first(a), second(b);
     internal::cutOperands(first, second, mode, nullptr, nullptr);
-    first.writeTo(a);
-    second.writeTo(b);
+    // Both are written out before either is replaced: the pieces are read from a and b, which
+    // may be one and the same polyline.
+    COrxVertexArray cutA = first.written(a.normal());
+    COrxVertexArray cutB = second.written(b.normal());
+    a = cutA;
+    b = cutB;
     return false;
 }
 

@@ -151,6 +151,13 @@ TEST(BoolOperationTest, BreakCutsBothOperandsAtEveryMeetingPoint) {
     ORX::g_vl_break(edge, corner, 3);
     EXPECT_EQ(edge.len(), 5);
     EXPECT_GE(edge.indexOf(COrxVertex(pt(2, 2), pt(1, 2), 0.0)), 0);
+
+    // One polyline as both operands: cut as two copies of it would be.
+    COrxVertexArray self = polygon({pt(0, 0), pt(4, 0), pt(0, 3), pt(4, 3)});  // crosses itself
+    COrxVertexArray copyA = self, copyB = self;
+    ORX::g_vl_break(copyA, copyB, 3);
+    ORX::g_vl_break(self, self, 3);
+    EXPECT_EQ(self, copyB);
 }
 
 TEST(BoolOperationTest, PointInPolyline) {

@@ -157,9 +157,7 @@ COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, Ov
     std::vector<COrxVertex const*> const nearB = b.piecesNear(false);
     PieceMatcher const matcher(nearB);
     std::vector<char> matched(nearB.size(), 0);
-    COrxVertexArray kept;
-    kept.setLogicalLength(static_cast<int>(areaA.size() + areaB.size()));  // room for all
-    kept.setLogicalLength(0);
+    std::vector<COrxVertex const*> kept;  // copied out once, at its final length
     classify(a, areaB, [&](COrxVertex const& piece, bool near, bool inside) {
         bool same = false, opposite = false;
         if (near) {
@@ -169,17 +167,23 @@ COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, Ov
             });
         }
         if (same || (!opposite && keeps(op, true, inside))) {
-            kept.append(piece);
+            kept.push_back(&piece);
         }
     });
     std::size_t nearIndex = 0;
     classify(b, areaA, [&](COrxVertex const& piece, bool near, bool inside) {
         bool const wasMatched = near && matched[nearIndex++] != 0;
         if (!wasMatched && keeps(op, false, inside)) {
-            kept.append(piece);
+            kept.push_back(&piece);
         }
     });
-    return kept;
+    COrxVertexArray pieces;
+    if (pieces.setLogicalLength(static_cast<int>(kept.size())) == static_cast<int>(kept.size())) {
+        for (std::size_t k = 0; k < kept.size(); ++k) {
+            pieces[static_cast<int>(k)] = *kept[k];
+        }
+    }
+    return pieces;
 }
 
 namespace {

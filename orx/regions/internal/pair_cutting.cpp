@@ -80,22 +80,22 @@ void PairCutter::pin(COrxPoint3d const& p) {
 // the two met there.
 void PairCutter::moveStart(int q, COrxPoint3d const& p) {
     int const before = m_b.previous(q);
-    COrxVertex& v = m_b.piece(q);
-    COrxVertex& previous = m_b.piece(before);
-    if (before != q && previous.endPoint() == v.startPoint()) {
+    if (before != q && m_b.piece(before).endPoint() == m_b.piece(q).startPoint()) {
+        COrxVertex& previous = m_b.changePiece(before);
         previous.set(previous.startPoint(), p, previous.bulge());
     }
+    COrxVertex& v = m_b.changePiece(q);
     v.set(p, v.endPoint(), v.bulge());
 }
 
 // Moves the vertex where piece q ends to p, with the start of the next one.
 void PairCutter::moveEnd(int q, COrxPoint3d const& p) {
     int const after = m_b.next(q);
-    COrxVertex& v = m_b.piece(q);
-    COrxVertex& next = m_b.piece(after);
-    if (after != q && next.startPoint() == v.endPoint()) {
+    if (after != q && m_b.piece(after).startPoint() == m_b.piece(q).endPoint()) {
+        COrxVertex& next = m_b.changePiece(after);
         next.set(p, next.endPoint(), next.bulge());
     }
+    COrxVertex& v = m_b.changePiece(q);
     v.set(v.startPoint(), p, v.bulge());
 }
 

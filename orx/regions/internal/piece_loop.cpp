@@ -5,18 +5,26 @@
 namespace ORX {
 namespace internal {
 
-PieceLoop::PieceLoop(COrxVertexArray const& vl) : m_originals(vl.len()) {
+PieceLoop::PieceLoop(COrxVertexArray const& vl) : m_source(vl.data()), m_originals(vl.len()) {
     std::size_t const n = static_cast<std::size_t>(vl.len());
-    m_pieces.reserve(n + n / 4 + 4);
-    m_next.reserve(m_pieces.capacity());
-    m_previous.reserve(m_pieces.capacity());
-    m_origin.reserve(m_pieces.capacity());
+    m_slot.assign(n, -1);
+    m_next.reserve(n + n / 4 + 4);
+    m_previous.reserve(m_next.capacity());
+    m_origin.reserve(m_next.capacity());
     for (int k = 0; k < vl.len(); ++k) {
-        m_pieces.push_back(vl[k]);
         m_origin.push_back(k);
         m_next.push_back(k + 1 < vl.len() ? k + 1 : 0);
         m_previous.push_back(k > 0 ? k - 1 : vl.len() - 1);
     }
+}
+
+COrxVertex& PieceLoop::changePiece(int r) {
+    int& slot = m_slot[static_cast<std::size_t>(r)];
+    if (slot < 0) {
+        slot = static_cast<int>(m_own.size());
+        m_own.push_back(m_source[r]);
+    }
+    return m_own[static_cast<std::size_t>(slot)];
 }
 
 bool PieceLoop::cut(int r, COrxPoint3d const& p, int& added) {
@@ -26,11 +34,12 @@ bool PieceLoop::cut(int r, COrxPoint3d const& p, int& added) {
     if (!g_bulg_cut(v.startPoint(), v.endPoint(), v.bulge(), p, at, first, second)) {
         return false;
     }
-    added = static_cast<int>(m_pieces.size());
+    added = size();
     COrxVertex tail(v);  // keeps the tag, as breakVertex's copy does
     tail.set(at, v.endPoint(), second);
-    m_pieces.push_back(tail);
-    piece(r).set(v.startPoint(), at, first);
+    m_slot.push_back(static_cast<int>(m_own.size()));
+    m_own.push_back(tail);
+    changePiece(r).set(v.startPoint(), at, first);
     int const after = next(r);
     m_next.push_back(after);
     m_previous.push_back(r);
@@ -40,7 +49,7 @@ bool PieceLoop::cut(int r, COrxPoint3d const& p, int& added) {
     return true;
 }
 
-void PieceLoop::writeTo(COrxVertexArray& vl) const {
+COrxVertexArray PieceLoop::written(COrxVector3d const& normal) const {
     COrxVertexArray out;
     if (m_originals > 0) {
         int r = 0;
@@ -49,8 +58,8 @@ void PieceLoop::writeTo(COrxVertexArray& vl) const {
             r = next(r);
         } while (r != 0);
     }
-    out.setNormal(vl.normal());
-    vl = out;
+    out.setNormal(normal);
+    return out;
 }
 
 }  // namespace internal
