@@ -67,8 +67,22 @@ private:
     double m_fixedMargin;  // the tolerances and the rounding of p's coordinates
 };
 
-// 1 inside, 0 outside, -1 restart (the ray met a segment end), 2 on the polyline.
-int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction) {
+bool isLevelFrom(COrxVertexArray const& vl, int first, double z) {
+    COrxVertex const* segments = vl.data();
+    for (int k = first; k < vl.len(); ++k) {
+        if (segments[k].startPoint().z != z || segments[k].endPoint().z != z) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// 1 inside, 0 outside, -1 restart (the ray met a segment end), 2 on the polyline. The pass
+// also finds out whether the polyline lies at height 0, where the ray is cast: when it does
+// not, `level` turns false and the answer means nothing (before any restart, so that the
+// test on the plan begins from the same state). Checking the heights on the way saves a
+// pass of its own over a long polyline.
+int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction, bool& level) {
     COrxPoint3d const far = polar(p, direction, kPolylineRayLength);
     COrxVertex const ray(p, far, 0.0);
     RayFilter const filter(p, direction);
@@ -77,31 +91,27 @@ int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction)
     COrxVertex const* segments = vl.data();
     for (int k = 0; k < vl.len(); ++k) {
         COrxVertex const& v = segments[k];
+        if (v.startPoint().z != 0.0 || v.endPoint().z != 0.0) {
+            level = false;
+            return 0;
+        }
         if (!filter.mayMatter(v)) {
             continue;  // neither holds p nor meets the ray
         }
         if (v.isPoint(p)) {
+            level = isLevelFrom(vl, k + 1, 0.0);
             return 2;
         }
         v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
         for (int n = 0; n < pts.len(); ++n) {
             if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
-                return -1;
+                level = isLevelFrom(vl, k + 1, 0.0);
+                return level ? -1 : 0;
             }
         }
         hits += pts.len();
     }
     return hits % 2;
-}
-
-bool isLevel(COrxVertexArray const& vl, double z) {
-    COrxVertex const* segments = vl.data();
-    for (int k = 0; k < vl.len(); ++k) {
-        if (segments[k].startPoint().z != z || segments[k].endPoint().z != z) {
-            return false;
-        }
-    }
-    return true;
 }
 
 // The polyline's plan at the height z.
@@ -122,16 +132,19 @@ bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     if (vl.len() < 2) {
         return false;
     }
+    p.z = 0.0;
+    bool level = true;
+    bool const inside =
+        insideByRays(angle(vl[0].mid(), p), onBoundary,
+                     [&](double direction) { return rayParity(vl, p, direction, level); });
+    if (level) {
+        return inside;
+    }
     // The segments compare points in space (isPoint, the ends the ray meets): a polyline
     // that does not lie at height 0 is tested on its plan there, or a point on it at
     // several heights would not be on it, a ray through a corner would count it twice, and
     // heights near the range of doubles would overflow.
-    if (!isLevel(vl, 0.0)) {
-        return rayInside(atHeight(vl, 0.0), p, onBoundary);
-    }
-    p.z = 0.0;
-    return insideByRays(angle(vl[0].mid(), p), onBoundary,
-                        [&](double direction) { return rayParity(vl, p, direction); });
+    return rayInside(atHeight(vl, 0.0), p, onBoundary);
 }
 
 }  // namespace internal
