@@ -10,6 +10,8 @@
 #include <random>
 #include <vector>
 
+#include "orx/geom/functions.h"
+
 using ORX::internal::BoxPairs;
 using ORX::internal::SegmentBox;
 
@@ -19,7 +21,7 @@ namespace {
 std::vector<SegmentBox> circleBoxes(int n, double cx, double cy, double r) {
     std::vector<SegmentBox> boxes;
     for (int i = 0; i < n; ++i) {
-        double const t0 = 2 * M_PI * i / n, t1 = 2 * M_PI * (i + 1) / n;
+        double const t0 = ORX::kTwoPi * i / n, t1 = ORX::kTwoPi * (i + 1) / n;
         double const x0 = cx + r * std::cos(t0), y0 = cy + r * std::sin(t0);
         double const x1 = cx + r * std::cos(t1), y1 = cy + r * std::sin(t1);
         boxes.push_back({std::fmin(x0, x1), std::fmin(y0, y1), std::fmax(x0, x1),
