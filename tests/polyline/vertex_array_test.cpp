@@ -1,9 +1,13 @@
 #include "orx/polyline/vertex_array.h"
 
 #include <cmath>
+#include <random>
 
 #include <gtest/gtest.h>
 
+#include "orx/geom/matrix.h"
+#include "orx/geom/point_list_functions.h"
+#include "orx/polyline/polyline_functions.h"
 #include "tests/support/shapes.h"
 
 using namespace orx_test;
@@ -182,6 +186,67 @@ TEST(COrxVertexArrayTest, OrientationOfClosedPolylines) {
     EXPECT_TRUE(ORX::g_vl_orient(list[0], COrxVector3d::kZAxis));
     EXPECT_TRUE(ORX::g_vl_orient(list[1], COrxVector3d::kZAxis));
     EXPECT_EQ(list[2][0].startPoint(), pt(0, 0));  // open: left alone
+}
+
+// The closing arc of a sliver: straight for some bulges, bulging the other way for others.
+double closingBulge(double b) {
+    return std::fabs(b) < 1e-2 ? 0.0 : -b / 2;
+}
+
+// The orientation summed point by point answers as the polygon of the exploded corners does,
+// for any polyline: closed or not, figures of eight, slivers, loops ending within the
+// tolerance of their start, a single segment, and other normals.
+TEST(COrxVertexArrayTest, OrientationIsThatOfTheExplodedCorners) {
+    std::mt19937 random(424242);
+    std::uniform_real_distribution<double> coordinate(-10.0, 10.0), bulge(-2.0, 2.0);
+    COrxVector3d const normals[] = {COrxVector3d::kZAxis, COrxVector3d(0, 0, -1),
+                                    COrxVector3d(1, 2, 3)};
+    for (int trial = 0; trial < 600; ++trial) {
+        int const n = 1 + trial % 7;
+        COrxPoint3dArray corners;
+        for (int k = 0; k < n; ++k) {
+            corners.append(pt(coordinate(random), trial % 5 == 0 ? 0.0 : coordinate(random)));
+        }
+        COrxVertexArray vl;
+        for (int k = 0; k < n; ++k) {
+            bool const last = k + 1 == n;
+            COrxPoint3d end = last ? corners[0] : corners[k + 1];
+            if (last && trial % 3 == 1) {
+                end = pt(end.x + 0.5e-5, end.y);  // back within the tolerance of the start
+            } else if (last && trial % 3 == 2) {
+                end = pt(end.x + 1, end.y);  // open
+            }
+            vl.append(COrxVertex(corners[k], end, trial % 4 == 0 ? 0.0 : bulge(random)));
+        }
+        for (COrxVector3d const& normal : normals) {
+            COrxVertexArray planar(vl);
+            COrxMatrix3d toPlane;
+            planar.transformBy(toPlane.setToWorldToPlane(normal));
+            bool const expected = ORX::g_pl_orient(
+                ORX::g_vl_expl(normal == COrxVector3d::kZAxis ? vl : planar, 4).pts(false, 0.01),
+                COrxVector3d::kZAxis);
+            ASSERT_EQ(ORX::g_vl_orient(vl, normal), expected) << trial;
+        }
+    }
+    EXPECT_TRUE(ORX::g_vl_orient(COrxVertexArray(), COrxVector3d::kZAxis));
+
+    // Slivers whose chord triangle is thinner than its arcs bulge: the arcs decide, and the
+    // chord polygon must not answer for them. Also far from the origin.
+    for (double const site : {0.0, 1e6}) {
+        for (double const height : {-1e-2, -1e-5, -1e-9, 0.0, 1e-9, 1e-5, 1e-2}) {
+            for (double const b : {-1.0, -0.1, -1e-3, -1e-7, 1e-7, 1e-3, 0.1, 1.0}) {
+                COrxPoint3d const a = pt(site, site), m = pt(site + 5, site + height),
+                                  c = pt(site + 10, site);
+                COrxVertexArray sliver;
+                sliver.append(COrxVertex(a, m, b)).append(COrxVertex(m, c, b));
+                sliver.append(COrxVertex(c, a, closingBulge(b)));
+                bool const expected = ORX::g_pl_orient(ORX::g_vl_expl(sliver, 4).pts(false, 0.01),
+                                                       COrxVector3d::kZAxis);
+                EXPECT_EQ(ORX::g_vl_orient(sliver, COrxVector3d::kZAxis), expected)
+                    << site << " " << height << " " << b;
+            }
+        }
+    }
 }
 
 TEST(COrxVertexArrayTest, FlatteningArcs) {
