@@ -14,6 +14,24 @@ bool positiveFinite(double x) {
     return std::isfinite(x) && x > 0.0;
 }
 
+bool isFiniteSegment(COrxVertex const& v) {
+    return v.startPoint().isValid() && v.endPoint().isValid() && std::isfinite(v.bulge());
+}
+
+// The trimmed segments and the new piece between them, handed out only when every value is
+// finite: an arc whose radius overflows gives no points to cut at, and the corner is then
+// refused with the segments untouched.
+bool commitCut(COrxVertex& s1, COrxVertex& s2, COrxVertex& piece, COrxVertex const& t1,
+               COrxVertex const& t2, COrxVertex const& cut) {
+    if (!isFiniteSegment(t1) || !isFiniteSegment(t2) || !isFiniteSegment(cut)) {
+        return false;
+    }
+    s1 = t1;
+    s2 = t2;
+    piece = cut;
+    return true;
+}
+
 bool hasLength(COrxVertex const& v) {
     return v.startPoint() != v.endPoint();
 }
@@ -201,10 +219,10 @@ bool g_vx_fillet(COrxVertex& s1, COrxVertex& s2, double radius, COrxVertex& arc)
     }
     COrxPoint3d const& c = centres[best];
     double const sweep = g_ang(side * (angle(c, t2) - angle(c, t1)));
-    arc = COrxVertex(t1, t2, side * std::tan(sweep / 4));
-    trimEnd(s1, t1);
-    trimStart(s2, t2);
-    return true;
+    COrxVertex trimmed1(s1), trimmed2(s2);
+    trimEnd(trimmed1, t1);
+    trimStart(trimmed2, t2);
+    return commitCut(s1, s2, arc, trimmed1, trimmed2, COrxVertex(t1, t2, side * std::tan(sweep / 4)));
 }
 
 bool g_vx_chamfer(COrxVertex& s1, COrxVertex& s2, double d1, double d2, COrxVertex& cut) {
@@ -215,10 +233,10 @@ bool g_vx_chamfer(COrxVertex& s1, COrxVertex& s2, double d1, double d2, COrxVert
     if (!pointBeforeEnd(s1, d1, q1) || !pointAfterStart(s2, d2, q2) || q1 == q2) {
         return false;
     }
-    cut = COrxVertex(q1, q2, 0.0);
-    trimEnd(s1, q1);
-    trimStart(s2, q2);
-    return true;
+    COrxVertex trimmed1(s1), trimmed2(s2);
+    trimEnd(trimmed1, q1);
+    trimStart(trimmed2, q2);
+    return commitCut(s1, s2, cut, trimmed1, trimmed2, COrxVertex(q1, q2, 0.0));
 }
 
 bool g_vl_fillet(COrxVertexArray& vl, int corner, double radius) {

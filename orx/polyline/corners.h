@@ -16,7 +16,8 @@
 // Failure is false with every argument unchanged: a radius or distance that is not a
 // positive finite number, no corner at the joint, or a corner too small for it (the
 // fillet's tangent point or the chamfer's cut point would lie beyond the far end of a
-// segment).
+// segment), or a result that would not be finite (a segment whose circle is too large for
+// doubles).
 #ifndef ORX_POLYLINE_CORNERS_H
 #define ORX_POLYLINE_CORNERS_H
 

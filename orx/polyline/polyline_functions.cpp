@@ -14,9 +14,8 @@ namespace ORX {
 
 namespace {
 
-// Pieces per half circle and chord tolerance used when the orientation is taken.
+// Pieces per half circle of the arcs when the orientation is taken.
 constexpr int kOrientPiecesPerHalfCircle = 4;
-constexpr double kOrientChordTol = 0.01;
 
 int innerPointCount(COrxVertex const& v, int n, double theta) {
     if (n < 1) {

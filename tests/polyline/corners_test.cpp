@@ -192,6 +192,15 @@ TEST(CornersTest, WhatCannotBeCutLeavesEverythingAsItWas) {
     EXPECT_FALSE(ORX::g_vl_chamfer_all(vl, 2, 1.6));  // two chamfers of 1.6 on a side of 3
     EXPECT_FALSE(ORX::g_vl_chamfer(vl, 7, 1));
     EXPECT_EQ(vl, before);
+
+    // Next to an arc whose circle is too large for doubles there is no point to cut at.
+    COrxVertexArray huge;
+    huge.append(COrxVertex(pt(-1.8e303, 1e7), pt(1e7, 1e7), -0.6));
+    huge.append(COrxVertex(pt(1e7, 1e7), pt(-1.8e303, 1e7), -6.25e13));
+    COrxVertexArray const hugeBefore(huge);
+    EXPECT_FALSE(ORX::g_vl_chamfer_all(huge, 2, 125));
+    EXPECT_FALSE(ORX::g_vl_fillet_all(huge, 2));
+    EXPECT_EQ(huge, hugeBefore);
 }
 
 }  // namespace
