@@ -222,7 +222,8 @@ bool g_vx_fillet(COrxVertex& s1, COrxVertex& s2, double radius, COrxVertex& arc)
     COrxVertex trimmed1(s1), trimmed2(s2);
     trimEnd(trimmed1, t1);
     trimStart(trimmed2, t2);
-    return commitCut(s1, s2, arc, trimmed1, trimmed2, COrxVertex(t1, t2, side * std::tan(sweep / 4)));
+    return commitCut(s1, s2, arc, trimmed1, trimmed2,
+                     COrxVertex(t1, t2, side * std::tan(sweep / 4)));
 }
 
 bool g_vx_chamfer(COrxVertex& s1, COrxVertex& s2, double d1, double d2, COrxVertex& cut) {

@@ -102,12 +102,12 @@ private:
 };
 
 // The same answer without exploding, where the polygon of the chords decides it beyond doubt:
-// the loop closes exactly, no arc reaches beyond a half circle, and the twice-area of the chord polygon exceeds everything that can tell the
-// exploded polygon's apart from it. That is, per arc, its circular segment (twice its area
-// is below |b| c^2 for a chord c) and the rounding of its exploded points (relative to its
-// coordinates and its radius, which a nearly straight arc makes huge), plus the rounding
-// of both sums (n + 16 times the epsilon-sized share of their terms' magnitudes). False when
-// it cannot tell; `ccw` holds the answer when it can.
+// the loop closes exactly, no arc reaches beyond a half circle, and the twice-area of the chord
+// polygon exceeds everything that can tell the exploded polygon's apart from it. That is, per arc,
+// its circular segment (twice its area is below |b| c^2 for a chord c) and the rounding of its
+// exploded points (relative to its coordinates and its radius, which a nearly straight arc makes
+// huge), plus the rounding of both sums (n + 16 times the epsilon-sized share of their terms'
+// magnitudes). False when it cannot tell; `ccw` holds the answer when it can.
 bool chordOrientation(COrxVertexArray const& vl, bool& ccw) {
     constexpr double kRounding = 1e-15;  // above the double epsilon, per term of a sum
     constexpr double kPointRounding = 1e-14;

@@ -24,8 +24,8 @@ std::vector<SegmentBox> circleBoxes(int n, double cx, double cy, double r) {
         double const t0 = ORX::kTwoPi * i / n, t1 = ORX::kTwoPi * (i + 1) / n;
         double const x0 = cx + r * std::cos(t0), y0 = cy + r * std::sin(t0);
         double const x1 = cx + r * std::cos(t1), y1 = cy + r * std::sin(t1);
-        boxes.push_back({std::fmin(x0, x1), std::fmin(y0, y1), std::fmax(x0, x1),
-                         std::fmax(y0, y1)});
+        boxes.push_back(
+            {std::fmin(x0, x1), std::fmin(y0, y1), std::fmax(x0, x1), std::fmax(y0, y1)});
     }
     return boxes;
 }
@@ -53,10 +53,10 @@ void expectSamePairs(std::vector<SegmentBox> const& mine, std::vector<SegmentBox
 }  // namespace
 
 TEST(BoxPairsTest, SameAsEveryPairForOutlines) {
-    expectSamePairs(circleBoxes(1000, 0, 0, 100), circleBoxes(1000, 60, 0, 100));  // two crossings
+    expectSamePairs(circleBoxes(1000, 0, 0, 100), circleBoxes(1000, 60, 0, 100));   // two crossings
     expectSamePairs(circleBoxes(700, 0, 0, 100), circleBoxes(900, 0, 0, 100.001));  // side by side
     expectSamePairs(circleBoxes(300, 0, 0, 1), circleBoxes(300, 5, 0, 1));          // apart
-    expectSamePairs(circleBoxes(5, 0, 0, 1), circleBoxes(40, 0.5, 0, 1));  // under a block
+    expectSamePairs(circleBoxes(5, 0, 0, 1), circleBoxes(40, 0.5, 0, 1));           // under a block
     expectSamePairs({}, circleBoxes(40, 0, 0, 1));
     expectSamePairs(circleBoxes(40, 0, 0, 1), {});
     // Boxes at the tolerance's distance: the pruning margin decides.
@@ -76,7 +76,9 @@ TEST(BoxPairsTest, SameAsEveryPairWithBoxesThatAreNotFinite) {
     for (int trial = 0; trial < 6; ++trial) {
         std::vector<SegmentBox> mine = circleBoxes(400, 0, 0, 100);
         std::vector<SegmentBox> theirs = circleBoxes(400, 300, 0, 100);  // apart but for these
-        SegmentBox const bad[] = {{nan, 0, 1, 1}, {0, 0, inf, 1}, {-inf, -inf, inf, inf},
+        SegmentBox const bad[] = {{nan, 0, 1, 1},
+                                  {0, 0, inf, 1},
+                                  {-inf, -inf, inf, inf},
                                   {1e308, 1e308, 1.7e308, 1.7e308}};
         mine[static_cast<std::size_t>(pick(random))] = bad[trial % 4];
         theirs[static_cast<std::size_t>(pick(random))] = bad[(trial + 1) % 4];

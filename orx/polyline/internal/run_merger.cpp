@@ -8,8 +8,8 @@
 
 #include "orx/geom/functions.h"
 #include "orx/plane_geometry/shared/arc_frame.h"
-#include "orx/plane_geometry/shared/circle_probe.h"
 #include "orx/plane_geometry/shared/bulge_sweep.h"
+#include "orx/plane_geometry/shared/circle_probe.h"
 
 namespace ORX {
 namespace internal {
@@ -99,8 +99,7 @@ bool mergedArc(Sequence const& s, int count, double angle, COrxVertex& merged) {
     ArcFrame const frame(candidate.startPoint(), candidate.endPoint(), candidate.bulge());
     for (int k = 1; k < count; ++k) {
         COrxPoint3d const& p = s.at(k).startPoint();
-        if (!frame.valid() ||
-            !frame.nearSegment(frame.toFrame(p), COrxPoint3d::tol)) {
+        if (!frame.valid() || !frame.nearSegment(frame.toFrame(p), COrxPoint3d::tol)) {
             return false;
         }
     }

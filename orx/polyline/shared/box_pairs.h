@@ -32,10 +32,10 @@ public:
 private:
     std::vector<SegmentBox> const& m_mine;
     std::vector<SegmentBox> const& m_theirs;
-    std::vector<char> m_mineBlockActive;     // per block of mine: some pair may overlap
-    std::vector<int> m_activeTheirs;         // indexes of theirs in active blocks, ascending
-    std::vector<SegmentBox> m_activeBoxes;   // their boxes, in the same order
-    SegmentGrid m_grid;                      // over m_activeBoxes
+    std::vector<char> m_mineBlockActive;    // per block of mine: some pair may overlap
+    std::vector<int> m_activeTheirs;        // indexes of theirs in active blocks, ascending
+    std::vector<SegmentBox> m_activeBoxes;  // their boxes, in the same order
+    SegmentGrid m_grid;                     // over m_activeBoxes
     mutable std::vector<int> m_found;
 };
 

@@ -60,8 +60,9 @@ bool arcReach(COrxVertex const& v, double dx, double dy, double& reach) {
     }
     // With u = min(b, 1/b) every quotient below stays within range for any finite bulge.
     double const u = b <= 1.0 ? b : 1.0 / b;
-    double const kappa = 2 * u / (1 + u * u);                             // 2b / (1 + b^2)
-    double const gamma = (b <= 1.0 ? 1.0 : -1.0) * (1 - u * u) / (1 + u * u);  // (1 - b^2) / (1 + b^2)
+    double const kappa = 2 * u / (1 + u * u);  // 2b / (1 + b^2)
+    double const gamma =
+        (b <= 1.0 ? 1.0 : -1.0) * (1 - u * u) / (1 + u * u);  // (1 - b^2) / (1 + b^2)
     double const sinQuarterSquared = b <= 1.0 ? b * b / (1 + b * b) : 1 / (1 + u * u);
     double const sinHalf = std::sin(delta / 2);
     reach = chord / 2 / kappa * (2 * sinQuarterSquared + gamma * 2 * sinHalf * sinHalf);

@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "orx/geom/tolerance.h"
-#include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/shared/box_pairs.h"
+#include "orx/polyline/shared/segment_box.h"
 
 namespace ORX {
 namespace internal {

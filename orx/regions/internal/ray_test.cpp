@@ -134,9 +134,9 @@ bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     }
     p.z = 0.0;
     bool level = true;
-    bool const inside =
-        insideByRays(angle(vl[0].mid(), p), onBoundary,
-                     [&](double direction) { return rayParity(vl, p, direction, level); });
+    bool const inside = insideByRays(angle(vl[0].mid(), p), onBoundary, [&](double direction) {
+        return rayParity(vl, p, direction, level);
+    });
     if (level) {
         return inside;
     }

@@ -66,8 +66,8 @@ long errorFrom(int result) {
 // switching a database into WAL mode needs it to itself, and several processes that open a
 // new hive together each find it held by the others. Retried for up to the busy timeout.
 int executeWaitingOutBusy(sqlite3* db, char const* sql) {
-    auto const end = std::chrono::steady_clock::now() +
-                     std::chrono::milliseconds(kRegistryBusyTimeoutMs);
+    auto const end =
+        std::chrono::steady_clock::now() + std::chrono::milliseconds(kRegistryBusyTimeoutMs);
     for (;;) {
         int const result = sqliteExecute(db, sql);
         if ((result & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() >= end) {
