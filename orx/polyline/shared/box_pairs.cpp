@@ -54,6 +54,13 @@ std::vector<SegmentBox> blockBoxes(std::vector<SegmentBox> const& boxes) {
 
 BoxPairs::BoxPairs(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> const& theirs)
     : m_mine(mine), m_theirs(theirs), m_grid(std::vector<SegmentBox>()) {
+    if (mine.size() <= kBlock || theirs.size() <= kBlock) {
+        // A block or less on one side: the blocks would cost more than they save.
+        m_mineBlockActive.assign(mine.size() / kBlock + 1, 1);
+        m_allTheirs = true;
+        m_grid = SegmentGrid(theirs);
+        return;
+    }
     std::vector<char> theirBlockActive;
     activeBlocks(blockBoxes(mine), blockBoxes(theirs), m_mineBlockActive, theirBlockActive);
     for (std::size_t j = 0; j < theirs.size(); ++j) {
@@ -73,7 +80,7 @@ void BoxPairs::near(int i, std::vector<int>& out) const {
     }
     m_grid.query(m_mine[at], m_found);
     for (int k : m_found) {
-        int const j = m_activeTheirs[static_cast<std::size_t>(k)];
+        int const j = m_allTheirs ? k : m_activeTheirs[static_cast<std::size_t>(k)];
         if (mayOverlap(m_mine[at], m_theirs[static_cast<std::size_t>(j)])) {
             out.push_back(j);
         }

@@ -7,7 +7,8 @@
 // pair mayOverlap admits lies in a pair of blocks it admits). The boxes of the other list in
 // such blocks are put on a grid, and each box of the first list in such a block asks the
 // grid. Two outlines that cross in a few places thus look at the boxes near the crossings
-// only; the answers are exactly those of testing every pair.
+// only; the answers are exactly those of testing every pair. Lists of a block or less go
+// straight to one grid, as the blocks would cost more than they save.
 #ifndef ORX_POLYLINE_SHARED_BOX_PAIRS_H
 #define ORX_POLYLINE_SHARED_BOX_PAIRS_H
 
@@ -33,9 +34,10 @@ private:
     std::vector<SegmentBox> const& m_mine;
     std::vector<SegmentBox> const& m_theirs;
     std::vector<char> m_mineBlockActive;    // per block of mine: some pair may overlap
+    bool m_allTheirs = false;               // every box of theirs is on the grid, at its own index
     std::vector<int> m_activeTheirs;        // indexes of theirs in active blocks, ascending
     std::vector<SegmentBox> m_activeBoxes;  // their boxes, in the same order
-    SegmentGrid m_grid;                     // over m_activeBoxes
+    SegmentGrid m_grid;                     // over m_activeBoxes, or over theirs
     mutable std::vector<int> m_found;
 };
 
