@@ -1,16 +1,11 @@
 #include "orx/foundation/obj.h"
 
-#include <cstdlib>
-#include <cstring>
+#include "orx/foundation/shared/block_cache.h"
 
 COrxObj::~COrxObj() = default;
 
 void* COrxObj::operator new(std::size_t size) noexcept {
-    void* block = std::malloc(size);
-    if (block != nullptr) {
-        std::memset(block, 0, size);
-    }
-    return block;
+    return ORX::internal::allocateBlock(size, true);
 }
 
 void* COrxObj::operator new[](std::size_t size) noexcept {
@@ -18,9 +13,9 @@ void* COrxObj::operator new[](std::size_t size) noexcept {
 }
 
 void COrxObj::operator delete(void* block) noexcept {
-    std::free(block);
+    ORX::internal::releaseBlock(block);
 }
 
 void COrxObj::operator delete[](void* block) noexcept {
-    operator delete(block);
+    ORX::internal::releaseBlock(block);
 }

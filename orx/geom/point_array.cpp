@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "orx/foundation/shared/relocatable_block.h"
+#include "orx/foundation/shared/plain_block.h"
 #include "orx/geom/functions.h"
 #include "orx/geom/matrix.h"
 #include "orx/geom/plane.h"
@@ -21,7 +21,7 @@ COrxPoint3dArray::COrxPoint3dArray(COrxPoint3dArray const& other) : COrxArray(),
 }
 
 COrxPoint3dArray::~COrxPoint3dArray() {
-    delete[] m_points;
+    ORX::internal::deletePlainBlock(m_points);
 }
 
 COrxPoint3dArray& COrxPoint3dArray::operator=(COrxPoint3dArray const& other) {
@@ -37,8 +37,8 @@ int COrxPoint3dArray::setLength(int n) {
     // The block grows before the counts change, so that a failed allocation leaves this
     // array exactly as it was.
     if (n > capacity() &&
-        !ORX::internal::growBlock(m_points, static_cast<std::size_t>(oldLength),
-                                  static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
+        !ORX::internal::growPlainBlock(m_points, static_cast<std::size_t>(oldLength),
+                                       static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
         return oldLength;
     }
     COrxArray::setLength(n);

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "orx/foundation/shared/plain_block.h"
 #include "orx/foundation/shared/relocatable_block.h"
 
 COrxVertexArray::COrxVertexArray() : m_normal(COrxVector3d::kZAxis), m_vertices(nullptr) {}
@@ -25,14 +26,12 @@ COrxVertexArray& COrxVertexArray::operator=(COrxVertexArray const& other) {
     if (setLogicalLength(other.len()) != other.len()) {
         return *this;  // no memory for the copy
     }
-    for (int k = 0; k < other.len(); ++k) {
-        m_vertices[k] = other.m_vertices[k];
-    }
+    ORX::internal::copyPlain(m_vertices, other.m_vertices, static_cast<std::size_t>(other.len()));
     return *this;
 }
 
 COrxVertexArray::~COrxVertexArray() {
-    delete[] m_vertices;
+    ORX::internal::deletePlainBlock(m_vertices);
 }
 
 bool COrxVertexArray::operator==(COrxVertexArray const& other) const {
@@ -62,17 +61,16 @@ COrxVertexArray& COrxVertexArray::operator+=(COrxVertexArray const& other) {
     if (setLogicalLength(start + count) != start + count) {
         return *this;
     }
-    for (int k = 0; k < count; ++k) {
-        m_vertices[start + k] = other.m_vertices[k];
-    }
+    ORX::internal::copyPlain(m_vertices + start, other.m_vertices, static_cast<std::size_t>(count));
     return *this;
 }
 
 int COrxVertexArray::setLength(int n) {
     int const used = len();
     bool const grows = n > capacity();
-    if (grows && !ORX::internal::growBlock(m_vertices, static_cast<std::size_t>(used),
-                                           static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
+    if (grows &&
+        !ORX::internal::growPlainBlock(m_vertices, static_cast<std::size_t>(used),
+                                       static_cast<std::size_t>(nextCapacity(capacity(), n)))) {
         return used;  // out of memory: nothing changed
     }
     COrxArray::setLength(n);
@@ -97,9 +95,7 @@ int COrxVertexArray::setLogicalLength(int n) {
 
 void COrxVertexArray::resetSlots(int from, int to) {
     // Slots past the length may still hold removed segments.
-    for (int k = from; k < to; ++k) {
-        m_vertices[k] = COrxVertex();
-    }
+    ORX::internal::fillDefaults(m_vertices + from, static_cast<std::size_t>(to - from));
 }
 
 void COrxVertexArray::shiftUp(int from) {

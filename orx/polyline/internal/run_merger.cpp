@@ -86,10 +86,14 @@ bool continues(COrxVertex const& last, COrxVertex const& next, COrxPoint3d const
     return last.isStraight() || next.endPoint() != start;
 }
 
+// The segments of work from `first` on, round the seam; k stays below work.len().
 struct Sequence {
     COrxVertexArray const& work;
     int first;
-    COrxVertex const& at(int k) const { return work[(first + k) % work.len()]; }
+    COrxVertex const& at(int k) const {
+        int const i = first + k;
+        return work.data()[i < work.len() ? i : i - work.len()];
+    }
 };
 
 // The arc that merges the first `count` segments of the sequence, when it keeps every
