@@ -205,8 +205,8 @@ bool COrxVertexArray::intersectWithBulg0(COrxPoint3dArray& pts,
     if (&other == this) {
         return false;
     }
-    std::vector<ORX::internal::SegmentBox> const mine = ORX::internal::segmentBoxes(*this);
-    std::vector<ORX::internal::SegmentBox> const theirs = ORX::internal::segmentBoxes(other);
+    ORX::internal::SegmentBoxes const mine = ORX::internal::segmentBoxes(*this);
+    ORX::internal::SegmentBoxes const theirs = ORX::internal::segmentBoxes(other);
     ORX::internal::UniquePoints unique(pts);
     for (int i = 0; i < len(); ++i) {
         for (int j = 0; j < other.len(); ++j) {

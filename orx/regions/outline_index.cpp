@@ -9,8 +9,8 @@
 
 namespace {
 
-std::vector<COrxVertex const*> segmentsOf(COrxArrayTempl<COrxVertexArray> const& loops) {
-    std::vector<COrxVertex const*> segments;
+ORX::internal::SegmentRefs segmentsOf(COrxArrayTempl<COrxVertexArray> const& loops) {
+    ORX::internal::SegmentRefs segments;
     for (int l : ORX::internal::indices(loops)) {
         COrxVertexArray const& loop = loops[l];
         for (int k = 0; k < loop.len(); ++k) {

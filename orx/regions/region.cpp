@@ -181,7 +181,7 @@ RegionList g_vll_region(Region const& loops) {
     int const n = static_cast<int>(loops.len());
     // Only a loop whose box holds a point can hold it strictly; each loop that is asked is
     // indexed once.
-    std::vector<internal::SegmentBox> boxes;
+    internal::SegmentBoxes boxes;
     boxes.reserve(static_cast<std::size_t>(n));
     for (int i = 0; i < n; ++i) {
         boxes.push_back(internal::polylineBox(loops[i]));

@@ -64,7 +64,7 @@ RegionList g_vll_regions(Region const& loops, unsigned long flags) {
     // Two loops can meet, and one can hold the other's first midpoint, only where their
     // boxes overlap: the others are skipped (rand() is then called less often than by
     // asking every pair).
-    std::vector<internal::SegmentBox> boxes;
+    internal::SegmentBoxes boxes;
     boxes.reserve(static_cast<std::size_t>(n));
     for (int i = 0; i < n; ++i) {
         boxes.push_back(internal::polylineBox(loops[i]));

@@ -18,8 +18,8 @@ using ORX::internal::SegmentBox;
 namespace {
 
 // Boxes of n consecutive chords of a circle about (cx, cy), as an outline gives them.
-std::vector<SegmentBox> circleBoxes(int n, double cx, double cy, double r) {
-    std::vector<SegmentBox> boxes;
+ORX::internal::SegmentBoxes circleBoxes(int n, double cx, double cy, double r) {
+    ORX::internal::SegmentBoxes boxes;
     for (int i = 0; i < n; ++i) {
         double const t0 = ORX::kTwoPi * i / n, t1 = ORX::kTwoPi * (i + 1) / n;
         double const x0 = cx + r * std::cos(t0), y0 = cy + r * std::sin(t0);
@@ -30,8 +30,8 @@ std::vector<SegmentBox> circleBoxes(int n, double cx, double cy, double r) {
     return boxes;
 }
 
-std::vector<int> everyPair(std::vector<SegmentBox> const& mine,
-                           std::vector<SegmentBox> const& theirs, std::size_t i) {
+std::vector<int> everyPair(ORX::internal::SegmentBoxes const& mine,
+                           ORX::internal::SegmentBoxes const& theirs, std::size_t i) {
     std::vector<int> near;
     for (std::size_t j = 0; j < theirs.size(); ++j) {
         if (ORX::internal::mayOverlap(mine[i], theirs[j])) {
@@ -41,7 +41,8 @@ std::vector<int> everyPair(std::vector<SegmentBox> const& mine,
     return near;
 }
 
-void expectSamePairs(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> const& theirs) {
+void expectSamePairs(ORX::internal::SegmentBoxes const& mine,
+                     ORX::internal::SegmentBoxes const& theirs) {
     BoxPairs const pairs(mine, theirs);
     std::vector<int> found;
     for (std::size_t i = 0; i < mine.size(); ++i) {
@@ -60,8 +61,8 @@ TEST(BoxPairsTest, SameAsEveryPairForOutlines) {
     expectSamePairs({}, circleBoxes(40, 0, 0, 1));
     expectSamePairs(circleBoxes(40, 0, 0, 1), {});
     // Boxes at the tolerance's distance: the pruning margin decides.
-    std::vector<SegmentBox> const row = circleBoxes(200, 1e6, 1e6, 10);
-    std::vector<SegmentBox> shifted = row;
+    ORX::internal::SegmentBoxes const row = circleBoxes(200, 1e6, 1e6, 10);
+    ORX::internal::SegmentBoxes shifted = row;
     for (SegmentBox& b : shifted) {
         b = {b.xmin + 20 + 4.5e-5, b.ymin, b.xmax + 20 + 4.5e-5, b.ymax};
     }
@@ -74,8 +75,8 @@ TEST(BoxPairsTest, SameAsEveryPairWithBoxesThatAreNotFinite) {
     std::mt19937 random(7);
     std::uniform_int_distribution<int> pick(0, 399);
     for (int trial = 0; trial < 6; ++trial) {
-        std::vector<SegmentBox> mine = circleBoxes(400, 0, 0, 100);
-        std::vector<SegmentBox> theirs = circleBoxes(400, 300, 0, 100);  // apart but for these
+        ORX::internal::SegmentBoxes mine = circleBoxes(400, 0, 0, 100);
+        ORX::internal::SegmentBoxes theirs = circleBoxes(400, 300, 0, 100);  // apart but for these
         SegmentBox const bad[] = {{nan, 0, 1, 1},
                                   {0, 0, inf, 1},
                                   {-inf, -inf, inf, inf},

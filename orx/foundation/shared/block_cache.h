@@ -20,7 +20,7 @@ class BlockCache {
 public:
     static constexpr std::size_t kSmallestKept = std::size_t{32} << 10;
     static constexpr std::size_t kMostBytes = std::size_t{64} << 20;
-    static constexpr int kMostBlocks = 8;
+    static constexpr int kMostBlocks = 32;
 
     BlockCache() = default;
     BlockCache(BlockCache const&) = delete;

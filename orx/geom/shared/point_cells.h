@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "orx/foundation/shared/scratch_allocator.h"
 #include "orx/geom/point.h"
 
 namespace ORX {
@@ -59,8 +60,8 @@ private:
     std::size_t bucket(std::int64_t x, std::int64_t y) const;
 
     double m_width;
-    std::vector<int> m_head;  // per bucket: the last point filed in it, -1 for none
-    std::vector<int> m_next;  // per point: the one filed before it in its bucket
+    ScratchVector<int> m_head;  // per bucket: the last point filed in it, -1 for none
+    ScratchVector<int> m_next;  // per point: the one filed before it in its bucket
 };
 
 }  // namespace internal

@@ -15,7 +15,7 @@ SegmentBox nanBox() {
 }
 
 // The blocks of each list that may overlap a block of the other.
-void activeBlocks(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> const& theirs,
+void activeBlocks(SegmentBoxes const& mine, SegmentBoxes const& theirs,
                   std::vector<char>& mineActive, std::vector<char>& theirsActive) {
     mineActive.assign(mine.size(), 0);
     theirsActive.assign(theirs.size(), 0);
@@ -34,8 +34,8 @@ void activeBlocks(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> c
 
 }  // namespace
 
-std::vector<SegmentBox> blockBoxes(std::vector<SegmentBox> const& boxes) {
-    std::vector<SegmentBox> blocks;
+SegmentBoxes blockBoxes(SegmentBoxes const& boxes) {
+    SegmentBoxes blocks;
     blocks.reserve(boxes.size() / BoxPairs::kBlock + 1);
     for (std::size_t first = 0; first < boxes.size(); first += BoxPairs::kBlock) {
         std::size_t const last = std::min(boxes.size(), first + BoxPairs::kBlock);
@@ -52,8 +52,8 @@ std::vector<SegmentBox> blockBoxes(std::vector<SegmentBox> const& boxes) {
     return blocks;
 }
 
-BoxPairs::BoxPairs(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> const& theirs)
-    : m_mine(mine), m_theirs(theirs), m_grid(std::vector<SegmentBox>()) {
+BoxPairs::BoxPairs(SegmentBoxes const& mine, SegmentBoxes const& theirs)
+    : m_mine(mine), m_theirs(theirs), m_grid(SegmentBoxes()) {
     if (mine.size() <= kBlock || theirs.size() <= kBlock) {
         // A block or less on one side: the blocks would cost more than they save.
         m_mineBlockActive.assign(mine.size() / kBlock + 1, 1);

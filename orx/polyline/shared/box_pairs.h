@@ -25,25 +25,25 @@ public:
     static constexpr int kBlock = 16;
 
     // Keeps references: both lists must outlive the object and stay unchanged.
-    BoxPairs(std::vector<SegmentBox> const& mine, std::vector<SegmentBox> const& theirs);
+    BoxPairs(SegmentBoxes const& mine, SegmentBoxes const& theirs);
 
     // The indexes j of `theirs` for which mayOverlap(mine[i], theirs[j]), ascending.
     void near(int i, std::vector<int>& out) const;
 
 private:
-    std::vector<SegmentBox> const& m_mine;
-    std::vector<SegmentBox> const& m_theirs;
-    std::vector<char> m_mineBlockActive;    // per block of mine: some pair may overlap
-    bool m_allTheirs = false;               // every box of theirs is on the grid, at its own index
-    std::vector<int> m_activeTheirs;        // indexes of theirs in active blocks, ascending
-    std::vector<SegmentBox> m_activeBoxes;  // their boxes, in the same order
-    SegmentGrid m_grid;                     // over m_activeBoxes, or over theirs
+    SegmentBoxes const& m_mine;
+    SegmentBoxes const& m_theirs;
+    std::vector<char> m_mineBlockActive;  // per block of mine: some pair may overlap
+    bool m_allTheirs = false;             // every box of theirs is on the grid, at its own index
+    std::vector<int> m_activeTheirs;      // indexes of theirs in active blocks, ascending
+    SegmentBoxes m_activeBoxes;           // their boxes, in the same order
+    SegmentGrid m_grid;                   // over m_activeBoxes, or over theirs
     mutable std::vector<int> m_found;
 };
 
 // The box around each block of kBlock consecutive boxes; a box that is not finite makes its
 // block's box NaN, which overlaps everything.
-std::vector<SegmentBox> blockBoxes(std::vector<SegmentBox> const& boxes);
+SegmentBoxes blockBoxes(SegmentBoxes const& boxes);
 
 }  // namespace internal
 }  // namespace ORX

@@ -19,8 +19,8 @@ namespace internal {
 // visit returns false.
 template <class Visit>
 void forEachNearPair(COrxVertexArray const& a, COrxVertexArray const& b, Visit visit) {
-    std::vector<SegmentBox> const mine = segmentBoxes(a);
-    std::vector<SegmentBox> const theirs = segmentBoxes(b);
+    SegmentBoxes const mine = segmentBoxes(a);
+    SegmentBoxes const theirs = segmentBoxes(b);
     BoxPairs const pairs(mine, theirs);
     std::vector<int> near;
     for (std::size_t i = 0; i < mine.size(); ++i) {

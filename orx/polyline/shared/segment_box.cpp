@@ -187,8 +187,8 @@ SegmentBox polylineBox(COrxVertexArray const& vl) {
     return box;
 }
 
-std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl) {
-    std::vector<SegmentBox> boxes;
+SegmentBoxes segmentBoxes(COrxVertexArray const& vl) {
+    SegmentBoxes boxes;
     boxes.reserve(static_cast<std::size_t>(vl.len()));
     for (int k = 0; k < vl.len(); ++k) {
         boxes.push_back(segmentBox(vl[k]));

@@ -10,6 +10,7 @@
 
 #include <vector>
 
+#include "orx/foundation/shared/scratch_allocator.h"
 #include "orx/polyline/vertex.h"
 #include "orx/polyline/vertex_array.h"
 
@@ -22,6 +23,11 @@ struct SegmentBox {
     double xmax;
     double ymax;
 };
+
+// The boxes of an outline's segments, one list per operation.
+using SegmentBoxes = ScratchVector<SegmentBox>;
+// References to the segments of one or more outlines.
+using SegmentRefs = ScratchVector<COrxVertex const*>;
 
 // A plan box around the segment for skipping pairs, cheap to compute: the chord's box
 // widened by the sagitta for an arc up to a half circle (the arc lies within the sagitta of
@@ -56,7 +62,7 @@ bool mayCross(SegmentBox const& box, COrxPoint3d const& p, COrxPoint3d const& q)
 SegmentBox polylineBox(COrxVertexArray const& vl);
 
 // The boxes of all segments of a polyline, in order.
-std::vector<SegmentBox> segmentBoxes(COrxVertexArray const& vl);
+SegmentBoxes segmentBoxes(COrxVertexArray const& vl);
 
 }  // namespace internal
 }  // namespace ORX

@@ -34,8 +34,8 @@ int rowIndex(double value, int count) {
 
 }  // namespace
 
-SegmentGrid::SegmentGrid(std::vector<SegmentBox> const& boxes) {
-    std::vector<SegmentBox> wide;
+SegmentGrid::SegmentGrid(SegmentBoxes const& boxes) {
+    SegmentBoxes wide;
     wide.reserve(boxes.size());
     int finiteCount = 0;
     SegmentBox all{0, 0, 0, 0};

@@ -18,7 +18,7 @@ namespace internal {
 
 class SegmentGrid {
 public:
-    explicit SegmentGrid(std::vector<SegmentBox> const& boxes);
+    explicit SegmentGrid(SegmentBoxes const& boxes);
 
     // Segments whose boxes may overlap `box` (given tight; widened here).
     void query(SegmentBox const& box, std::vector<int>& out) const;
@@ -37,8 +37,9 @@ private:
 
     double m_x0 = 0.0, m_y0 = 0.0, m_cellW = 1.0, m_cellH = 1.0;
     int m_nx = 0, m_ny = 0;
-    std::vector<int> m_cellStart;  // CSR: the segments of cell c are m_ids[start[c], start[c + 1])
-    std::vector<int> m_ids;
+    ScratchVector<int>
+        m_cellStart;  // CSR: the segments of cell c are m_ids[start[c], start[c + 1])
+    ScratchVector<int> m_ids;
     std::vector<int> m_everywhere;  // non-finite or very large boxes: always candidates
 };
 

@@ -61,8 +61,8 @@ private:
 
     COrxVertex* m_vl;  // the segments, stored in place
     int m_count;
-    std::vector<int> m_position;  // by first position: where the segment is now
-    std::vector<int> m_id;        // by position: the segment's first position
+    ScratchVector<int> m_position;  // by first position: where the segment is now
+    ScratchVector<int> m_id;        // by position: the segment's first position
     std::unique_ptr<PointCells> m_starts;
 };
 

@@ -28,7 +28,7 @@ private:
     int rayParity(COrxPoint3d const& p, double direction) const;
 
     COrxVertexArray const& m_polyline;
-    std::vector<SegmentBox> m_boxes;
+    SegmentBoxes m_boxes;
     SegmentGrid m_grid;
 };
 

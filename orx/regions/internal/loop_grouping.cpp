@@ -20,8 +20,8 @@ namespace {
 using Region = COrxArrayTempl<COrxVertexArray>;
 using RegionList = COrxArrayTempl<Region>;
 
-std::vector<COrxVertex const*> segmentsOf(COrxVertexArray const& loop) {
-    std::vector<COrxVertex const*> segments;
+SegmentRefs segmentsOf(COrxVertexArray const& loop) {
+    SegmentRefs segments;
     segments.reserve(static_cast<std::size_t>(loop.len()));
     for (int k = 0; k < loop.len(); ++k) {
         segments.push_back(&loop[k]);
@@ -79,7 +79,7 @@ private:
 
     Region const& m_loops;
     std::vector<int> const& m_outer;
-    std::vector<SegmentBox> m_boxes;
+    SegmentBoxes m_boxes;
     std::unique_ptr<SegmentGrid> m_grid;
     std::vector<std::unique_ptr<StripIndex>> m_index;
 };

@@ -5,6 +5,7 @@
 
 #include "orx/foundation/array_templ_impl.h"
 #include "orx/foundation/shared/index_range.h"
+#include "orx/foundation/shared/plain_block.h"
 #include "orx/polyline/shared/segment_box.h"
 #include "orx/regions/bool_operation.h"
 #include "orx/regions/internal/pair_cutting.h"
@@ -37,8 +38,8 @@ struct Operand {
 
     // The pieces near the other operand (all pieces when `all`), loop by loop in polyline
     // order.
-    std::vector<COrxVertex const*> piecesNear(bool all) const {
-        std::vector<COrxVertex const*> list;
+    SegmentRefs piecesNear(bool all) const {
+        SegmentRefs list;
         for (std::size_t l = 0; l < pieces.size(); ++l) {
             PieceLoop const& loop = pieces[l];
             if (loop.size() == 0) {
@@ -57,7 +58,7 @@ struct Operand {
 
     std::vector<PieceLoop> pieces;
     std::vector<std::vector<char>> near;  // per loop, per original segment
-    std::vector<SegmentBox> boxes;        // per loop
+    SegmentBoxes boxes;                   // per loop
 };
 
 // Cuts every loop of a against every loop of b. Pairs of loops whose boxes lie apart are
@@ -154,10 +155,11 @@ COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, Ov
     Operand a(loopsA), b(loopsB);
     cutAll(a, b, loopsA, loopsB);
     StripIndex const areaA(a.piecesNear(true), testsOf(b)), areaB(b.piecesNear(true), testsOf(a));
-    std::vector<COrxVertex const*> const nearB = b.piecesNear(false);
+    SegmentRefs const nearB = b.piecesNear(false);
     PieceMatcher const matcher(nearB);
     std::vector<char> matched(nearB.size(), 0);
-    std::vector<COrxVertex const*> kept;  // copied out once, at its final length
+    SegmentRefs kept;  // copied out once, at its final length
+    kept.reserve(areaA.size() + areaB.size());
     classify(a, areaB, [&](COrxVertex const& piece, bool near, bool inside) {
         bool same = false, opposite = false;
         if (near) {
@@ -180,7 +182,7 @@ COrxVertexArray overlayPieces(LoopRefs const& loopsA, LoopRefs const& loopsB, Ov
     COrxVertexArray pieces;
     if (pieces.setLogicalLength(static_cast<int>(kept.size())) == static_cast<int>(kept.size())) {
         for (std::size_t k = 0; k < kept.size(); ++k) {
-            pieces[static_cast<int>(k)] = *kept[k];
+            copyPlain(pieces.data() + k, kept[k], 1);
         }
     }
     return pieces;

@@ -33,8 +33,8 @@ COrxPoint3d onEndOf(COrxVertex const& w, COrxPoint3d const& p) {
 
 // The box of each original segment: of all its pieces, when an earlier cutting (against
 // another loop) has cut it already.
-std::vector<SegmentBox> originalBoxes(PieceLoop const& loop) {
-    std::vector<SegmentBox> boxes;
+SegmentBoxes originalBoxes(PieceLoop const& loop) {
+    SegmentBoxes boxes;
     boxes.reserve(static_cast<std::size_t>(loop.originals()));
     for (int o = 0; o < loop.originals(); ++o) {
         SegmentBox box = segmentBox(loop.piece(o));
@@ -219,8 +219,8 @@ bool PairCutter::cutSecond(int r, int q) {
 
 void cutOperands(PieceLoop& a, PieceLoop& b, int mode, std::vector<char>* nearA,
                  std::vector<char>* nearB) {
-    std::vector<SegmentBox> const boxesA = originalBoxes(a);
-    std::vector<SegmentBox> const boxesB = originalBoxes(b);
+    SegmentBoxes const boxesA = originalBoxes(a);
+    SegmentBoxes const boxesB = originalBoxes(b);
     BoxPairs const pairs(boxesA, boxesB);
     PairCutter cutter(a, b, mode);
     long long budget = cutBudget(a.originals(), b.originals());

@@ -13,6 +13,7 @@
 
 #include <vector>
 
+#include "orx/foundation/shared/scratch_allocator.h"
 #include "orx/polyline/vertex_array.h"
 
 namespace ORX {
@@ -53,11 +54,11 @@ public:
 
 private:
     COrxVertex const* m_source;     // the original segments
-    std::vector<int> m_slot;        // per piece: its place in m_own, or -1 (in m_source)
+    ScratchVector<int> m_slot;      // per piece: its place in m_own, or -1 (in m_source)
     std::vector<COrxVertex> m_own;  // the pieces made or changed by cutting
-    std::vector<int> m_next;
-    std::vector<int> m_previous;
-    std::vector<int> m_origin;
+    ScratchVector<int> m_next;
+    ScratchVector<int> m_previous;
+    ScratchVector<int> m_origin;
     int m_originals;
 };
 

@@ -26,7 +26,7 @@ int coincidence(COrxVertex const& p, COrxVertex const& q) {
     return direction;
 }
 
-PieceMatcher::PieceMatcher(std::vector<COrxVertex const*> pieces)
+PieceMatcher::PieceMatcher(SegmentRefs pieces)
     : m_pieces(std::move(pieces)), m_starts(static_cast<int>(m_pieces.size())) {
     for (std::size_t k = 0; k < m_pieces.size(); ++k) {
         m_starts.add(m_pieces[k]->startPoint(), static_cast<int>(k));

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "orx/geom/shared/point_cells.h"
+#include "orx/polyline/shared/segment_box.h"
 #include "orx/polyline/vertex.h"
 
 namespace ORX {
@@ -24,7 +25,7 @@ int coincidence(COrxVertex const& p, COrxVertex const& q);
 class PieceMatcher {
 public:
     // Keeps references: the pieces must outlive the matcher and stay unchanged.
-    explicit PieceMatcher(std::vector<COrxVertex const*> pieces);
+    explicit PieceMatcher(SegmentRefs pieces);
 
     // Calls found(index, direction) for every piece that coincides with p (index into the
     // list the matcher was made from).
@@ -44,7 +45,7 @@ public:
     }
 
 private:
-    std::vector<COrxVertex const*> m_pieces;
+    SegmentRefs m_pieces;
     PointCells m_starts;
 };
 

@@ -53,7 +53,7 @@ HeightSpan heightSpan(COrxVertex const& v) {
 
 }  // namespace
 
-StripIndex::StripIndex(std::vector<COrxVertex const*> segments, int expectedQueries)
+StripIndex::StripIndex(SegmentRefs segments, int expectedQueries)
     : m_segments(std::move(segments)), m_plain(expectedQueries <= kPlainQueries) {
     if (!m_plain) {
         build();

@@ -35,8 +35,7 @@ public:
     static constexpr int kManyQueries = 1 << 30;
 
     // Keeps pointers: the segments must outlive the index and stay unchanged.
-    explicit StripIndex(std::vector<COrxVertex const*> segments,
-                        int expectedQueries = kManyQueries);
+    explicit StripIndex(SegmentRefs segments, int expectedQueries = kManyQueries);
 
     // The winding number of p over all segments (exact, g_bulg_winding).
     int winding(COrxPoint3d const& p) const;
@@ -51,14 +50,14 @@ private:
     template <class Visit>
     void visitStrip(int strip, Visit visit) const;
 
-    std::vector<COrxVertex const*> m_segments;
-    bool m_plain = false;             // no strips: every question is a pass over all segments
-    std::vector<HeightSpan> m_spans;  // of a plain index: per segment
-    std::vector<SegmentBox> m_boxes;  // widened by the pruning margin
+    SegmentRefs m_segments;
+    bool m_plain = false;               // no strips: every question is a pass over all segments
+    ScratchVector<HeightSpan> m_spans;  // of a plain index: per segment
+    SegmentBoxes m_boxes;               // widened by the pruning margin
     double m_y0 = 0.0, m_height = 1.0;
     int m_strips = 0;
-    std::vector<int> m_start;  // CSR: the segments of strip s are m_ids[start[s], start[s + 1])
-    std::vector<int> m_ids;
+    ScratchVector<int> m_start;  // CSR: the segments of strip s are m_ids[start[s], start[s + 1])
+    ScratchVector<int> m_ids;
     std::vector<int> m_everywhere;  // boxes that are not finite: tested for every point
 };
 
