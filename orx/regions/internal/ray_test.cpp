@@ -57,11 +57,14 @@ public:
 
 private:
     double margin(COrxVertex const& v) const {
-        double const size =
-            std::max(std::max(std::fabs(v.startPoint().x), std::fabs(v.startPoint().y)),
-                     std::max(std::fabs(v.endPoint().x), std::fabs(v.endPoint().y)));
+        double const size = larger(larger(std::fabs(v.startPoint().x), std::fabs(v.startPoint().y)),
+                                   larger(std::fabs(v.endPoint().x), std::fabs(v.endPoint().y)));
         return m_fixedMargin + kRayMarginRelative * size;
     }
+
+    // std::max by value: std::max of references went through memory on this path, which
+    // runs once per segment of every one-shot point test.
+    static double larger(double a, double b) { return a < b ? b : a; }
 
     double m_px, m_py, m_ux, m_uy;
     double m_fixedMargin;  // the tolerances and the rounding of p's coordinates
