@@ -24,11 +24,14 @@ struct ScratchAllocator {
     template <class U>
     ScratchAllocator(ScratchAllocator<U> const&) noexcept {}
 
+    // T may itself be a pointer (lists of segment references): its size is the one wanted.
+    static constexpr std::size_t kElementBytes = sizeof(T);  // NOLINT(bugprone-sizeof-expression)
+
     T* allocate(std::size_t n) {
-        if (n > static_cast<std::size_t>(-1) / sizeof(T)) {
+        if (n > static_cast<std::size_t>(-1) / kElementBytes) {
             throw std::bad_array_new_length();
         }
-        void* const block = allocateBlock(n * sizeof(T), false);
+        void* const block = allocateBlock(n * kElementBytes, false);
         if (block == nullptr) {
             throw std::bad_alloc();
         }
