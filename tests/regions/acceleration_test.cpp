@@ -32,6 +32,17 @@ void expectSameBooleans(COrxVertexArray const& a, COrxVertexArray const& b, int 
     }
 }
 
+// The polyline with every corner at its own height: it is tested on its plan at height 0.
+COrxVertexArray atScatteredHeights(COrxVertexArray vl) {
+    for (int k = 0; k < vl.len(); ++k) {
+        COrxPoint3d s = vl[k].startPoint(), e = vl[k].endPoint();
+        s.z = 0.5 * k - 3.0;
+        e.z = k + 1 < vl.len() ? 0.5 * (k + 1) - 3.0 : -3.0;
+        vl[k].set(s, e, vl[k].bulge());
+    }
+    return vl;
+}
+
 }  // namespace
 
 TEST(AccelerationTest, IntersectionsMatchTheAllPairsLoop) {
@@ -68,6 +79,7 @@ TEST(AccelerationTest, PointInPolylineMatchesThePlainRayTest) {
     ShapeMaker make(41u);
     for (int n = 0; n < kCases; ++n) {
         COrxVertexArray const vl = operand(make, n);
+        COrxVertexArray const raised = atScatteredHeights(vl);
         KeepOperandsOnFailure keep("acceleration-inside-" + std::to_string(n), vl,
                                    COrxVertexArray());
         // Random points, the corners and the midpoints (on the boundary), and points on grid
@@ -89,6 +101,9 @@ TEST(AccelerationTest, PointInPolylineMatchesThePlainRayTest) {
                 bool const fast = ORX::g_vl_pt_inside(vl, probes[k], onBoundary);
                 EXPECT_EQ(fast, plain) << "case " << n << " probe " << k;
                 EXPECT_EQ(std::rand(), plainNext) << "case " << n << " probe " << k;
+                std::srand(static_cast<unsigned>(n * 1000 + k));
+                EXPECT_EQ(ORX::g_vl_pt_inside(raised, probes[k], onBoundary), plain)
+                    << "raised case " << n << " probe " << k;
             }
         }
     }

@@ -19,10 +19,11 @@ constexpr double kRayMarginRelative = 1e-9;
 
 // The ray from p along the unit direction (ux, uy), and the cheapest test that a segment can
 // neither hold p nor meet the ray: all of it lies farther than the margin to one side of the
-// ray's line, or behind p, and p lies outside its box. An arc up to a half circle lies
-// within its sagitta of its chord, bounded by |b| (|dx| + |dy|) / 2; longer arcs are always
-// tested. The margin covers the tolerances of isPoint and intersectWith and the rounding of
-// the coordinates, as the pruning boxes' does.
+// ray's line, or behind p. Since p lies on the ray, such a segment is also farther than the
+// margin from p. An arc up to a half circle lies within its sagitta of its chord, bounded by
+// |b| (|dx| + |dy|) / 2; longer arcs are always tested. The margin covers the tolerances of
+// isPoint and intersectWith and the rounding of the coordinates; the sum of the four
+// coordinate sizes stands for their largest, which is cheaper and never smaller.
 class RayFilter {
 public:
     RayFilter(COrxPoint3d const& p, double direction)
@@ -38,95 +39,69 @@ public:
         if (!(b <= 1.0)) {
             return true;  // a longer arc, or a NaN bulge
         }
-        double const sx = v.startPoint().x - m_px, sy = v.startPoint().y - m_py;
-        double const ex = v.endPoint().x - m_px, ey = v.endPoint().y - m_py;
-        double const reach = b * (std::fabs(ex - sx) + std::fabs(ey - sy)) / 2 + margin(v);
-        // Sides of the ray's line, and positions along it.
-        double const ds = m_ux * sy - m_uy * sx, de = m_ux * ey - m_uy * ex;
-        double const ts = m_ux * sx + m_uy * sy, te = m_ux * ex + m_uy * ey;
+        COrxPoint3d const& s = v.startPoint();
+        COrxPoint3d const& e = v.endPoint();
+        double const sx = s.x - m_px, sy = s.y - m_py;
+        double const ex = e.x - m_px, ey = e.y - m_py;
+        double const size = std::fabs(s.x) + std::fabs(s.y) + std::fabs(e.x) + std::fabs(e.y);
+        double const reach = b * 0.5 * (std::fabs(ex - sx) + std::fabs(ey - sy)) + m_fixedMargin +
+                             kRayMarginRelative * size;
         // Written as plain comparisons, all false for NaN: such a segment matters.
-        bool const offLine = (ds > reach && de > reach) || (ds < -reach && de < -reach) ||
-                             (ts < -reach && te < -reach);
-        if (!offLine) {
-            return true;
+        double const ds = m_ux * sy - m_uy * sx, de = m_ux * ey - m_uy * ex;
+        if ((ds > reach && de > reach) || (ds < -reach && de < -reach)) {
+            return false;  // to one side of the ray's line
         }
-        // Off the ray: it matters only if it may hold p.
-        return !((sx > reach && ex > reach) || (sx < -reach && ex < -reach) ||
-                 (sy > reach && ey > reach) || (sy < -reach && ey < -reach));
+        double const ts = m_ux * sx + m_uy * sy, te = m_ux * ex + m_uy * ey;
+        return !(ts < -reach && te < -reach);  // behind p, or not
     }
 
 private:
-    double margin(COrxVertex const& v) const {
-        double const size = larger(larger(std::fabs(v.startPoint().x), std::fabs(v.startPoint().y)),
-                                   larger(std::fabs(v.endPoint().x), std::fabs(v.endPoint().y)));
-        return m_fixedMargin + kRayMarginRelative * size;
-    }
-
-    // std::max by value: std::max of references went through memory on this path, which
-    // runs once per segment of every one-shot point test.
-    static double larger(double a, double b) { return a < b ? b : a; }
-
     double m_px, m_py, m_ux, m_uy;
     double m_fixedMargin;  // the tolerances and the rounding of p's coordinates
 };
 
-bool isLevelFrom(COrxVertexArray const& vl, int first, double z) {
-    COrxVertex const* segments = vl.data();
-    for (int k = first; k < vl.len(); ++k) {
-        if (segments[k].startPoint().z != z || segments[k].endPoint().z != z) {
-            return false;
-        }
+// The segment's plan at height 0, where the ray is cast. The segments compare points in
+// space (isPoint, the ends the ray meets): on a polyline off that height a point on it would
+// not be on it, a ray through a corner would count it twice, and heights near the range of
+// doubles would overflow. The filter above does not look at heights, so only the segments
+// it lets through need their plan.
+COrxVertex const& onPlan(COrxVertex const& v, COrxVertex& plan) {
+    if (v.startPoint().z == 0.0 && v.endPoint().z == 0.0) {
+        return v;
     }
-    return true;
+    COrxPoint3d s = v.startPoint(), e = v.endPoint();
+    s.z = e.z = 0.0;
+    plan.set(s, e, v.bulge());
+    return plan;
 }
 
-// 1 inside, 0 outside, -1 restart (the ray met a segment end), 2 on the polyline. The pass
-// also finds out whether the polyline lies at height 0, where the ray is cast: when it does
-// not, `level` turns false and the answer means nothing (before any restart, so that the
-// test on the plan begins from the same state). Checking the heights on the way saves a
-// pass of its own over a long polyline.
-int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction, bool& level) {
+// 1 inside, 0 outside, -1 restart (the ray met a segment end), 2 on the polyline.
+int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction) {
     COrxPoint3d const far = polar(p, direction, kPolylineRayLength);
     COrxVertex const ray(p, far, 0.0);
     RayFilter const filter(p, direction);
     COrxPoint3dArray pts;
+    COrxVertex plan;
     int hits = 0;
-    COrxVertex const* segments = vl.data();
-    for (int k = 0; k < vl.len(); ++k) {
-        COrxVertex const& v = segments[k];
-        if (v.startPoint().z != 0.0 || v.endPoint().z != 0.0) {
-            level = false;
-            return 0;
-        }
-        if (!filter.mayMatter(v)) {
+    COrxVertex const* const segments = vl.data();
+    int const count = vl.len();
+    for (int k = 0; k < count; ++k) {
+        if (!filter.mayMatter(segments[k])) {
             continue;  // neither holds p nor meets the ray
         }
+        COrxVertex const& v = onPlan(segments[k], plan);
         if (v.isPoint(p)) {
-            level = isLevelFrom(vl, k + 1, 0.0);
             return 2;
         }
         v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
         for (int n = 0; n < pts.len(); ++n) {
             if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
-                level = isLevelFrom(vl, k + 1, 0.0);
-                return level ? -1 : 0;
+                return -1;
             }
         }
         hits += pts.len();
     }
     return hits % 2;
-}
-
-// The polyline's plan at the height z.
-COrxVertexArray atHeight(COrxVertexArray const& vl, double z) {
-    COrxVertexArray plan(vl);
-    for (int k = 0; k < plan.len(); ++k) {
-        COrxVertex& v = plan[k];
-        COrxPoint3d s = v.startPoint(), e = v.endPoint();
-        s.z = e.z = z;
-        v.set(s, e, v.bulge());
-    }
-    return plan;
 }
 
 }  // namespace
@@ -135,19 +110,12 @@ bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     if (vl.len() < 2) {
         return false;
     }
+    // The polyline is tested on its plan at height 0, the first ray aimed at the middle of
+    // the plan of its first segment.
     p.z = 0.0;
-    bool level = true;
-    bool const inside = insideByRays(angle(vl[0].mid(), p), onBoundary, [&](double direction) {
-        return rayParity(vl, p, direction, level);
-    });
-    if (level) {
-        return inside;
-    }
-    // The segments compare points in space (isPoint, the ends the ray meets): a polyline
-    // that does not lie at height 0 is tested on its plan there, or a point on it at
-    // several heights would not be on it, a ray through a corner would count it twice, and
-    // heights near the range of doubles would overflow.
-    return rayInside(atHeight(vl, 0.0), p, onBoundary);
+    COrxVertex firstPlan;
+    double const direction = angle(onPlan(vl[0], firstPlan).mid(), p);
+    return insideByRays(direction, onBoundary, [&](double ray) { return rayParity(vl, p, ray); });
 }
 
 }  // namespace internal

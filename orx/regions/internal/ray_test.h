@@ -1,7 +1,7 @@
 // The point-in-polyline ray test of g_vl_pt_inside, as one pass over the segments.
 //
-// Each segment is first tested against boxes: only a segment whose box may hold the point or
-// meet the ray is asked whether it holds the point and where it meets the ray; the others can
+// Each segment is first measured against the ray: only a segment that may come within the
+// margin of it is asked whether it holds the point and where it meets the ray; the others can
 // do neither, so the answer, the restarts and the calls of rand() are those of asking every
 // segment. A single question costs one pass and builds nothing.
 #ifndef ORX_REGIONS_INTERNAL_RAY_TEST_H
