@@ -74,8 +74,12 @@ COrxPoint3d decodeQuery(FuzzInput& in, Region const& region, bool& onLoop, bool&
             }
             onLoop = true;
             onOuter = i == 0;
-            COrxVertex const& s =
-                loop[static_cast<int>(in.below(static_cast<unsigned>(loop.len())))];
+            // The tests look at the plan: a segment whose ends meet there is a point on it,
+            // though in space (ends at different heights) its midpoint lies elsewhere.
+            COrxVertex s = loop[static_cast<int>(in.below(static_cast<unsigned>(loop.len())))];
+            COrxPoint3d start = s.startPoint(), end = s.endPoint();
+            start.z = end.z = 0.0;
+            s.set(start, end, s.bulge());
             return in.flag() ? s.mid() : s.startPoint();
         }
         case 1: {
