@@ -70,9 +70,8 @@ ORX_API bool g_vl_break(COrxVertexArray& a, COrxVertexArray& b, int mode);
 // Point in polyline by ray parity: the ray runs from p away from the midpoint of the first
 // segment, kPolylineRayLength long. A point on the polyline answers onBoundary. When the ray
 // passes through a segment end the test restarts with a direction from rand(). The test is
-// planar: the polyline's plan (a copy, unless it lies at height 0) is asked about p's plan
-// position. A polyline of fewer than two segments
-// contains nothing.
+// planar: the polyline's plan at height 0 is asked about p's plan position, with no copy of
+// the polyline. A polyline of fewer than two segments contains nothing.
 ORX_API bool g_vl_pt_inside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary);
 
 // Reorders the segments into head-to-tail chains: each segment is followed by the first
