@@ -23,17 +23,9 @@ int IndexedPolyline::rayParity(COrxPoint3d const& p, double direction) const {
         if (!mayContain(box, p) && !mayCross(box, p, far)) {
             continue;  // neither holds p nor meets the ray
         }
-        COrxVertex const& v = m_polyline[k];
-        if (v.isPoint(p)) {
-            return 2;
+        if (int const told = askSegment(m_polyline[k], p, ray, pts, hits)) {
+            return told;
         }
-        v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
-        for (int n = 0; n < pts.len(); ++n) {
-            if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
-                return -1;
-            }
-        }
-        hits += pts.len();
     }
     return hits % 2;
 }

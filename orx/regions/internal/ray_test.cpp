@@ -89,22 +89,29 @@ int rayParity(COrxVertexArray const& vl, COrxPoint3d const& p, double direction)
         if (!filter.mayMatter(segments[k])) {
             continue;  // neither holds p nor meets the ray
         }
-        COrxVertex const& v = onPlan(segments[k], plan);
-        if (v.isPoint(p)) {
-            return 2;
+        if (int const told = askSegment(onPlan(segments[k], plan), p, ray, pts, hits)) {
+            return told;
         }
-        v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
-        for (int n = 0; n < pts.len(); ++n) {
-            if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
-                return -1;
-            }
-        }
-        hits += pts.len();
     }
     return hits % 2;
 }
 
 }  // namespace
+
+int askSegment(COrxVertex const& v, COrxPoint3d const& p, COrxVertex const& ray,
+               COrxPoint3dArray& pts, int& hits) {
+    if (v.isPoint(p)) {
+        return 2;
+    }
+    v.intersectWith(pts, ray, COrxVertex::kSkipTangent);
+    for (int n = 0; n < pts.len(); ++n) {
+        if (pts[n] == v.startPoint() || pts[n] == v.endPoint()) {
+            return -1;
+        }
+    }
+    hits += pts.len();
+    return 0;
+}
 
 bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary) {
     if (vl.len() < 2) {

@@ -33,6 +33,12 @@ bool insideByRays(double direction, bool onBoundary, Parity parity) {
     return false;
 }
 
+// What one segment tells the ray from p to the far point: 2 when it holds p, -1 when the
+// ray meets one of its ends (the ray must be drawn again), else 0 after adding the number of
+// points where the ray crosses it to `hits`. `pts` is working space.
+int askSegment(COrxVertex const& v, COrxPoint3d const& p, COrxVertex const& ray,
+               COrxPoint3dArray& pts, int& hits);
+
 bool rayInside(COrxVertexArray const& vl, COrxPoint3d p, bool onBoundary);
 
 }  // namespace internal
